@@ -1,0 +1,5 @@
+# One set of warnings for every target of the project.
+add_compile_options(-Wall -Wextra -Wpedantic)
+if(KQ_WERROR)
+  add_compile_options(-Werror)
+endif()

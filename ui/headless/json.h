@@ -1,0 +1,50 @@
+// A small JSON value for the event log: objects keep their keys in insertion order.
+// Strings hold Windows-1252 text and are written out as UTF-8.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace ui {
+
+class Json {
+ public:
+  using Array = std::vector<Json>;
+  using Object = std::vector<std::pair<std::string, Json>>;
+
+  Json() = default;  // null
+  Json(std::nullptr_t) {}
+  Json(bool b) : v_(b) {}
+  Json(int i) : v_(static_cast<int64_t>(i)) {}
+  Json(int64_t i) : v_(i) {}
+  Json(const char* s) : v_(std::string(s)) {}
+  Json(std::string s) : v_(std::move(s)) {}
+  Json(Array a) : v_(std::move(a)) {}
+  Json(Object o) : v_(std::move(o)) {}
+
+  bool IsNull() const { return std::holds_alternative<std::monostate>(v_); }
+  bool IsString() const { return std::holds_alternative<std::string>(v_); }
+  const std::string& Str() const;  // "" when not a string
+  int64_t Int() const;             // 0 when not a number
+  bool Bool() const;
+  const Array& Arr() const;
+  const Object& Obj() const;
+
+  // Object access: adds or replaces a key; lookup returns null for an absent key.
+  Json& Set(const std::string& key, Json value);
+  const Json& operator[](const std::string& key) const;
+
+  std::string Dump() const;
+
+ private:
+  std::variant<std::monostate, bool, int64_t, std::string, Array, Object> v_;
+};
+
+// Windows-1252 to UTF-8 and back (unmappable characters become '?').
+std::string Cp1252ToUtf8(const std::string& text);
+std::string Utf8ToCp1252(const std::string& text);
+
+}  // namespace ui
