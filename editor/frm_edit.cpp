@@ -349,9 +349,7 @@ void FrmEdit::mnuHelpItem_Click(int index) {
 }
 
 void FrmEdit::mnuCompile_Click() {
-  const bool ok = Compile();
-  PrgHdr.CompiledFlag = ok ? -1 : 0;
-  if (ok) ChangedFlag = true;
+  CompileCommand();
 }
 
 void FrmEdit::mnuPrint_Click() {
