@@ -122,7 +122,8 @@ TEST_F(ScanTest, PathsByTypeAndName) {
     SetField(w.Prototype.ProtoPath[3], "Prompts");
   });
   EXPECT_TRUE(FoundPathFunc(0, kPathNumber, voice));
-  EXPECT_TRUE(FoundPathFunc(0, kPathNumber, std::string_view("Prompts\0", 8)));  // a shorter key is padded
+  EXPECT_TRUE(
+      FoundPathFunc(0, kPathNumber, std::string_view("Prompts\0", 8)));  // a shorter key is padded
 }
 
 TEST_F(ScanTest, LabelsOnlyInTheListedFields) {
