@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <filesystem>
 
 #include "document/catalogue.h"
 #include "document/document.h"
@@ -247,6 +248,7 @@ TEST_F(MergeTest, FilesThatCannotBeInserted) {
   const Snapshot before = Snapshot::Take();
   Insert(TempPath("none.kqx"), 0, "none.kqx");
   EXPECT_EQ(LastBox(), "File none.kqx doesn't exist.");
+  EXPECT_TRUE(std::filesystem::exists(TempPath("none.kqx")));  // the open made it
 
   std::vector<uint8_t> old(84009, 0);
   std::memcpy(old.data(), "3.09", 5);
