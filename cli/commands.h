@@ -1,0 +1,13 @@
+// The command functions of kqx.
+#pragma once
+
+#include "cli/kqx.h"
+
+namespace kqx {
+
+int CmdInfo(CliContext& ctx);
+int CmdLines(CliContext& ctx);
+int CmdResave(CliContext& ctx);
+int CmdScript(CliContext& ctx);
+
+}  // namespace kqx
