@@ -196,6 +196,7 @@ Json ControlState(const Control& c) {
   }
   j.Set("enabled", c.Enabled());
   j.Set("visible", c.Visible());
+  if (c.Kind() == ControlKind::Menu) j.Set("checked", static_cast<const Menu&>(c).Checked());
   if (c.Kind() == ControlKind::ComboBox) {
     const auto& cb = static_cast<const ComboBox&>(c);
     j.Set("ListIndex", cb.ListIndex());
