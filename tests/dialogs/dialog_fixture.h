@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "document/catalogue.h"
+#include "document/document.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "ui/headless/headless_platform.h"
@@ -28,10 +29,12 @@ class DialogTest : public ::testing::Test {
  protected:
   void SetUp() override {
     ui::SetPlatform(&p);
+    kq::InitDocument();
     kq::InitNameTables();
     kq::GetFuncRecordLength();
-    ResetHeader();
-    SetFlowDefaults();
+    // A working record left over from elsewhere: the dialogs must not depend on it.
+    std::memset(&kq::WorkRecord, 0x55, sizeof kq::WorkRecord);
+    kq::PrgHdr.CompiledFlag = -1;
     window.Move(1000, 500, 12000, 9000);
     kq::SetEditList(&window.lstEdit);
     kq::SetMainWindow(&window);
@@ -45,53 +48,6 @@ class DialogTest : public ::testing::Test {
     kq::SetMainWindow(nullptr);
     kq::SetEditList(nullptr);
     ui::SetPlatform(nullptr);
-  }
-
-  static void ResetHeader() {
-    std::memset(&kq::PrgHdr, 0, sizeof kq::PrgHdr);
-    kq::PrgHdr.CompiledFlag = -1;
-    for (auto& v : kq::PrgHdr.Variable) {
-      v.VarRefType = -1;
-      kq::SetField(v.VarRefName, "");
-    }
-    for (auto& row : kq::PrgHdr.Path) {
-      for (auto& e : row) {
-        kq::SetField(e.PathText, "");
-        kq::SetField(e.PathName, "");
-      }
-    }
-    for (auto& t : kq::PrgHdr.Table) kq::SetField(t.TableName, "");
-  }
-
-  static void BlankLabel(kq::LabelRef& l) {
-    kq::SetField(l.LabelRefName, "");
-    l.LabelRefLine = -1;
-  }
-  static void BlankVar(kq::VarRef& v) {
-    v.VarRefType = -1;
-    kq::SetField(v.VarRefName, "");
-  }
-
-  // The defaults of the flow functions, as the document gives them.
-  static void SetFlowDefaults() {
-    auto& r = kq::InitRecord;
-    BlankVar(r.Condition.Left);
-    BlankVar(r.Condition.Right);
-    r.Condition.Operator = 0;
-    kq::SetField(r.Condition.ThenLabel, "");
-    kq::SetField(r.Condition.ElseLabel, "");
-    r.Condition.ThenLine = r.Condition.ElseLine = -1;
-    r.Delay.DelayMs = 10;
-    BlankLabel(r.Gosub.Target);
-    BlankLabel(r.Gosub.ErrorLabel);
-    BlankLabel(r.Goto.Target);
-    BlankVar(r.Random.Target);
-    r.Random.Lower = 0;
-    r.Random.Upper = 10;
-    kq::SetField(r.Remark.RemarkText, "");
-    r.Return.ReturnReserved = -1;
-    BlankLabel(r.Return.ErrorLabel);
-    std::memset(&kq::WorkRecord, 0x55, sizeof kq::WorkRecord);
   }
 
   // Declares a variable in the next free entry.
