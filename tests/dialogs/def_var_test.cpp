@@ -218,6 +218,17 @@ TEST_F(DefVarTest, ClearAsksAndCancelStillEmptiesTheNameAndMarks) {
   EXPECT_TRUE(Table().empty());
 }
 
+TEST_F(DefVarTest, EnterOnCancelClosesWithoutWriting) {
+  AddVariable("Count", kq::kVarLong);
+  Define([&](kq::frmDefVar& d) {
+    d.lstVariable.UserSelect(0);
+    d.cmdDelete.UserClick();
+    d.UserKey(d.cmdCancel, 13);
+    EXPECT_FALSE(d.Loaded());
+  });
+  EXPECT_EQ(Table(), (std::vector<std::string>{"Count:0"}));
+}
+
 TEST_F(DefVarTest, KeysOnTheTypeOptionsOnlyBeep) {
   Define([&](kq::frmDefVar& d) {
     d.UserKey(d.optDataType[2], ' ');

@@ -442,6 +442,18 @@ TEST_F(ConditionTest, ModifiedStringConditionWithOperatorBeyondItsListFallsBackT
   EXPECT_EQ(kq::WorkRecord.Condition.Operator, 0);
 }
 
+TEST_F(FlowDialogTest, ConditionNeedsAVariableOfAnyKind) {
+  PrepareNew(3);
+  kq::GetFuncParm(3);
+  EXPECT_EQ(BoxTexts(),
+            (std::vector<std::string>{"Define a long, double or string variable before using this "
+                                      "function."}));
+  EXPECT_EQ(p.CountOf("show"), 0);
+  AddVariable("Sum", kq::kVarDouble);
+  Run<kq::frmCondition>(
+      3, [&](kq::frmCondition& d) { EXPECT_EQ(kq::RTrim(d.cboVar[0].Text()), "Sum"); });
+}
+
 TEST_F(ConditionTest, CancelChangesNothing) {
   kq::FuncLine = Name17("Condition");
   Run<kq::frmCondition>(3, [&](kq::frmCondition& d) {
