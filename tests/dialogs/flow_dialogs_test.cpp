@@ -264,6 +264,23 @@ TEST_F(FlowDialogTest, EnterInARemarkWithTextFinishesTheDialog) {
   EXPECT_EQ(kq::FuncLine, "\t\t" + Name17("Remark") + "\tNote");
 }
 
+TEST_F(FlowDialogTest, RemarkSetWithATabKeepsIt) {
+  Run<kq::frmRemark>(13, [&](kq::frmRemark& d) {
+    d.txtRemark.SetText("a\tb");
+    d.cmdOk.UserClick();
+  });
+  EXPECT_EQ(kq::FuncLine, "\t\t" + Name17("Remark") + "\ta\tb");
+}
+
+TEST_F(FlowDialogTest, PastedLabelObeysTheLabelsRules) {
+  Run<kq::frmGoto>(10, [&](kq::frmGoto& d) {
+    kq::TypeText(d.txtLabel, "My \"label\"\r is long enough");
+    EXPECT_EQ(d.txtLabel.Text(), "My label is lon");
+    EXPECT_EQ(p.CountOf("beep"), 2);
+    EXPECT_TRUE(d.Loaded());
+  });
+}
+
 TEST_F(FlowDialogTest, EmptyRemark) {
   Run<kq::frmRemark>(13, [&](kq::frmRemark& d) { d.cmdOk.UserClick(); });
   EXPECT_EQ(kq::FuncLine, "\t\t" + Name17("Remark") + "\t");
