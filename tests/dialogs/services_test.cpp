@@ -213,6 +213,9 @@ TEST_F(ServicesTest, AssignListBoxVarDoubleAndStringConstants) {
   host.cbo.SetText("-2.25");
   EXPECT_TRUE(kq::AssignListBoxVar(host.cbo, kq::kVarDouble, v));
   EXPECT_EQ(Bytes(v), Bytes(Var(kq::kConstDouble, "-2.25")));
+  host.cbo.SetText("-0");
+  EXPECT_TRUE(kq::AssignListBoxVar(host.cbo, kq::kVarDouble, v));
+  EXPECT_EQ(Bytes(v), Bytes(Var(kq::kConstDouble, "0")));
   host.cbo.SetText("");
   EXPECT_FALSE(kq::AssignListBoxVar(host.cbo, kq::kVarDouble, v));
   EXPECT_TRUE(kq::AssignListBoxVar(host.cbo, kq::kVarString, v));  // a valid empty constant
