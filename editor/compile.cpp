@@ -3,10 +3,12 @@
 #include <cstring>
 #include <string>
 
+#include "document/document.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "editor/compile_index.h"
 #include "editor/record_view.h"
+#include "editor/select_line.h"
 #include "ui/model/list_controls.h"
 #include "ui/platform/platform.h"
 
@@ -21,7 +23,7 @@ int LineCount() {
 }
 
 void ShowFault(int line, const std::string& text, const char* title = kCompilationError) {
-  SelectFaultyLine(line);
+  SelectOnlyLine(line);
   ui::platform().MsgBox(text, ui::vbExclamation | ui::vbOKOnly, title);
 }
 
@@ -30,11 +32,6 @@ RecordView LoadRecord(int line, int funcNo) {
   uint8_t* work = WorkRecord.Image(funcNo);
   std::memcpy(work, FuncBlock[line], static_cast<size_t>(RecordLength[funcNo]));
   return RecordView(work);
-}
-
-// Writes the function's WorkRecord back into the line's block (UpdateFuncParm).
-void StoreRecord(int line, int funcNo) {
-  std::memcpy(FuncBlock[line], WorkRecord.Image(funcNo), static_cast<size_t>(RecordLength[funcNo]));
 }
 
 VarRef VarAt(const RecordView& rec, int offset) {
@@ -374,17 +371,11 @@ bool ResolveLine(const LabelIndex& labels, int line, int f) {
     default:
       IllegalFunctionNoNumber("UpdateLabels.");
   }
-  if (ok) StoreRecord(line, f);
+  if (ok) UpdateFuncParm(line, f);
   return ok;
 }
 
 }  // namespace
-
-void SelectFaultyLine(int line) {
-  ui::ListBox& list = EditList();
-  for (int i : list.SelectedIndexes()) list.SetSelected(i, false);
-  list.SetSelected(line, true);
-}
 
 bool DefinedVarMsgFunc(const VariableIndex& vars, int line, const VarRef& ref) {
   if (IsConstantType(ref.VarRefType)) return true;
@@ -501,8 +492,8 @@ bool DuplicatedLabels() {
   const LabelIndex labels(LineCount());
   int i = 0, j = 0;
   if (!labels.FirstDuplicate(i, j)) return false;
-  ShowFault(i, "Label '" + Text(LineTable[i].LineLabel) + "' duplicated in line" + Str(int64_t{i}) + " and" +
-                   Str(int64_t{j}));
+  ShowFault(i, "Label '" + Text(LineTable[i].LineLabel) + "' duplicated in line" + Str(int64_t{i}) +
+                   " and" + Str(int64_t{j}));
   return true;
 }
 
@@ -523,7 +514,8 @@ bool Compile() {
       !UndefinedDatabaseTables() && !DuplicatedLabels() && UpdateLabels()) {
     result = true;
     p.SetMousePointer(ui::vbDefault);
-    p.MsgBox("Successfully compilation...", ui::vbExclamation | ui::vbOKOnly, "Compile Information");
+    p.MsgBox("Successfully compilation...", ui::vbExclamation | ui::vbOKOnly,
+             "Compile Information");
   }
   p.SetMousePointer(ui::vbDefault);
   return result;

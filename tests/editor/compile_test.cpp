@@ -38,7 +38,8 @@ class CompileTest : public ::testing::Test, public DocFixture {
 
 TEST_F(CompileTest, CleanProgramCompilesAndResolvesEveryKindOfReference) {
   Add("Top", Rec(10).LabelRef(0, "End", 77));
-  Add("", Rec(3).Var(0, kVarLong, "Count").Var(32, kConstLong, "5").Label(68, "Top").Label(84, "End"));
+  Add("",
+      Rec(3).Var(0, kVarLong, "Count").Var(32, kConstLong, "5").Label(68, "Top").Label(84, "End"));
   Add("", Rec(5).Var(148, kConstString, "555").Label(16 * 3, "Top"));
   Add("", Rec(49).I32(0, kPathVoice).Text(4, 28, "V").Label(32, "End"));
   Add("End", Rec(14));
@@ -53,7 +54,7 @@ TEST_F(CompileTest, CleanProgramCompilesAndResolvesEveryKindOfReference) {
   EXPECT_EQ(LineRecord(2).I32At(112 + 4 * 3), 0);
   EXPECT_EQ(LineRecord(2).I32At(112), -1);  // empty outcome keeps its number
   EXPECT_EQ(LineRecord(3).I32At(64), 4);
-  EXPECT_EQ(LineRecord(3).I32At(68), -1);   // empty check label keeps its number
+  EXPECT_EQ(LineRecord(3).I32At(68), -1);      // empty check label keeps its number
   EXPECT_EQ(Selected(), std::vector<int>{2});  // success leaves the selection alone
   EXPECT_EQ(platform.MousePointer(), ui::vbDefault);
 }
@@ -90,8 +91,9 @@ TEST_F(CompileTest, UndeclaredVariableSelectsTheLine) {
   list().SetSelected(0, true);
   EXPECT_FALSE(Compile());
   EXPECT_EQ(OnlyBox(),
-            std::make_pair(std::string("Compilation Error"),
-                           std::string("Variable 'Missing' in line 1 is not defined or data type mismatch.")));
+            std::make_pair(
+                std::string("Compilation Error"),
+                std::string("Variable 'Missing' in line 1 is not defined or data type mismatch.")));
   EXPECT_EQ(Selected(), std::vector<int>{1});
   EXPECT_EQ(platform.Events().back().fields["icon"].Str(), "exclamation");
 }
@@ -103,7 +105,8 @@ TEST_F(CompileTest, VariableOfAnotherTypeIsATypeMismatch) {
 }
 
 TEST_F(CompileTest, ConstantsAreNeverLookedUp) {
-  Add("", Rec(46).Var(0, kVarString, "Name").Var(32, kConstString, "no such").Var(64, kConstLong, "3"));
+  Add("",
+      Rec(46).Var(0, kVarString, "Name").Var(32, kConstString, "no such").Var(64, kConstLong, "3"));
   EXPECT_TRUE(Compile());
 }
 
@@ -113,10 +116,17 @@ TEST_F(CompileTest, UnusedFieldsAreNotChecked) {
   DeclarePath(kPathGeneral, 0, "Bin", "/bin/");
   DeclarePath(kPathExport, 0, "Out", "/out/");
   Add("", Rec(53).Text(0, 28, "Bin").Var(28, kVarString, "Name").Var(60, kVarLong, "Nope"));
-  Add("", Rec(54).Var(0, kVarLong, "Count").Var(32, kVarLong, "Count").Var(64, kVarLong, "Count")
-              .Var(96, kVarLong, "Count").Var(128, kVarLong, "Nope"));
+  Add("", Rec(54)
+              .Var(0, kVarLong, "Count")
+              .Var(32, kVarLong, "Count")
+              .Var(64, kVarLong, "Count")
+              .Var(96, kVarLong, "Count")
+              .Var(128, kVarLong, "Nope"));
   Add("", Rec(19).Var(44, kVarString, "Nope").Var(88, kVarString, "Nope"));
-  Add("", Rec(17).Var(0, kVarLong, "Count").Var(32, kVarNone, "").Text(808, 28, "Out")
+  Add("", Rec(17)
+              .Var(0, kVarLong, "Count")
+              .Var(32, kVarNone, "")
+              .Text(808, 28, "Out")
               .Var(836, kConstString, "f.txt"));
   Add("", Rec(11).Var(0, kVarLong, "Count"));
   EXPECT_TRUE(Compile());
@@ -140,8 +150,10 @@ TEST_F(CompileTest, TableColumnsAreCheckedBeforeTheLines) {
   Add("", Rec(41).Var(0, kVarLong, "Missing"));
   list().SetSelected(0, true);
   EXPECT_FALSE(Compile());
-  EXPECT_EQ(OnlyBox(), std::make_pair(std::string("Compilation Error"),
-                                      std::string("Variable 'Gone' in database 'Cust' column 5 is not defined.")));
+  EXPECT_EQ(
+      OnlyBox(),
+      std::make_pair(std::string("Compilation Error"),
+                     std::string("Variable 'Gone' in database 'Cust' column 5 is not defined.")));
   EXPECT_EQ(Selected(), std::vector<int>{0});  // no line selected by a column fault
 }
 
@@ -168,7 +180,11 @@ TEST_F(CompileTest, IllegalVariableTypeEndsTheProgram) {
 
 TEST_F(CompileTest, UndeclaredPathIsReportedWithoutLineNumber) {
   DeclarePath(kPathVoice, 0, "Voice", "/v/");
-  Add("", Rec(16).Var(0, kVarLong, "Count").I32(60, 1).Text(68, 28, "Voice").Text(96, 28, "Other")
+  Add("", Rec(16)
+              .Var(0, kVarLong, "Count")
+              .I32(60, 1)
+              .Text(68, 28, "Voice")
+              .Text(96, 28, "Other")
               .Text(124, 28, "Digits"));
   EXPECT_FALSE(Compile());
   EXPECT_EQ(OnlyBox(), std::make_pair(std::string("Compilation Error"),
@@ -184,9 +200,8 @@ TEST_F(CompileTest, EmptyPathNameIsNotDefined) {
 
 TEST_F(CompileTest, PathOfNoTypeEndsTheProgram) {
   Add("", Rec(49).Text(4, 28, "P"));
-  EXPECT_EQ(ProgramErrorOf(&Compile),
-            std::string("Illegal path variable type 'P ") +
-                "' with value -1 in Global DefinedPathMsgVariable.");
+  EXPECT_EQ(ProgramErrorOf(&Compile), std::string("Illegal path variable type 'P ") +
+                                          "' with value -1 in Global DefinedPathMsgVariable.");
 }
 
 TEST_F(CompileTest, UndeclaredTableComesAfterVariablesAndPaths) {
@@ -255,9 +270,15 @@ TEST_F(CompileTest, ConditionWithoutThenLabelFailsInPlace) {
 
 TEST_F(CompileTest, CheckFileLabelsResolveInPlace) {
   DeclarePath(kPathMessage, 0, "Msg", "/m/");
-  Add("Here", Rec(50).I32(0, kPathMessage).Text(4, 28, "Msg").Var(32, kConstString, "a.vox")
+  Add("Here", Rec(50)
+                  .I32(0, kPathMessage)
+                  .Text(4, 28, "Msg")
+                  .Var(32, kConstString, "a.vox")
                   .Label(80, "Here"));
-  Add("", Rec(51).I32(0, kPathMessage).Text(4, 28, "Msg").Var(32, kConstString, "a.vox")
+  Add("", Rec(51)
+              .I32(0, kPathMessage)
+              .Text(4, 28, "Msg")
+              .Var(32, kConstString, "a.vox")
               .Label(64, "There"));
   EXPECT_FALSE(Compile());
   EXPECT_EQ(OnlyBox(), std::make_pair(std::string("Compilation Error"),
@@ -269,7 +290,8 @@ TEST_F(CompileTest, CheckFileLabelsResolveInPlace) {
 TEST_F(CompileTest, IllegalFunctionNumbersEndTheProgram) {
   Add("", Rec(13));
   LineTable[0].LineFuncNo = 60;
-  EXPECT_EQ(ProgramErrorOf(&Compile), "Illegal Function Number 60 in frmEdit - UnDefinedMsgVariables");
+  EXPECT_EQ(ProgramErrorOf(&Compile),
+            "Illegal Function Number 60 in frmEdit - UnDefinedMsgVariables");
   LineTable[0].LineFuncNo = 22;  // an empty slot passes the first two passes
   EXPECT_EQ(ProgramErrorOf(&Compile), "Illegal Function Number in frmEdit - UndefinedDatabase");
 }
