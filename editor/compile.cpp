@@ -6,6 +6,7 @@
 #include "document/document.h"
 #include "document/state.h"
 #include "document/text.h"
+#include "editor/commands.h"
 #include "editor/compile_index.h"
 #include "editor/record_view.h"
 #include "editor/select_line.h"
