@@ -7,6 +7,7 @@
 #include "cli/commands.h"
 #include "document/state.h"
 #include "editor/listing.h"
+#include "ui/headless/headless_platform.h"
 
 namespace kqx {
 
@@ -28,6 +29,9 @@ int CmdList(CliContext& ctx) {
     ctx.err << "usage: kqx " << usage << "\n";
     return kExitRefused;
   }
+  // Written to standard output, the listing stays alone there: the boxes go to the
+  // error stream.
+  if (out.empty()) ctx.platform.SetEventStream(&ctx.err);
   if (!OpenDocument(ctx, in)) return kExitRefused;
   kq::ApplFileName = in;
   kq::ApplFileTitle = TitleOf(in);

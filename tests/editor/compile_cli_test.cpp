@@ -132,8 +132,20 @@ TEST_F(KqxCommandsTest, ListWritesTheListingText) {
 }
 
 TEST_F(KqxCommandsTest, ListOfAMissingFileIsRefused) {
-  EXPECT_EQ(Run({"list", (dir / "none.kqx").string()}), 1);
+  const std::string missing = (dir / "none.kqx").string();
+  EXPECT_EQ(Run({"list", missing}), 1);
+  EXPECT_EQ(out.str(), "");  // standard output holds only a listing
+  EXPECT_NE(err.str().find("msgbox"), std::string::npos);
+  EXPECT_EQ(Run({"list", missing, "-o", (dir / "none.TXT").string()}), 1);
   EXPECT_NE(out.str().find("msgbox"), std::string::npos);
+}
+
+TEST_F(KqxCommandsTest, ListFaultStopsWithWhatWasWritten) {
+  Add("", Rec(43).I32(0, 5));
+  const std::string in = Save("fault.kqx");
+  EXPECT_EQ(Run({"list", in, "--now", "x"}), 1);
+  EXPECT_NE(out.str().find("On/Off Hook"), std::string::npos);
+  EXPECT_NE(err.str().find("the listing stops"), std::string::npos);
 }
 
 }  // namespace
