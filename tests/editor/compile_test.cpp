@@ -7,6 +7,7 @@
 #include "editor/compile.h"
 #include "editor/compile_index.h"
 #include "tests/editor/doc_builder.h"
+#include "tests/editor/record_layouts.h"
 
 namespace kq::test {
 namespace {
@@ -325,6 +326,47 @@ TEST_F(CompileTest, CompileCommandSetsTheFlags) {
   CompileCommand();
   EXPECT_EQ(PrgHdr.CompiledFlag, 0);
   EXPECT_FALSE(ChangedFlag);
+}
+
+}  // namespace
+}  // namespace kq::test
+
+namespace kq::test {
+namespace {
+
+// Every label field of every live function names the label of line 0: after UpdateLabels
+// each carries 0, except the out-of-range label of Insert Record, which compile leaves
+// alone; no other byte of any record changes.
+TEST_F(CompileTest, UpdateLabelsResolvesEveryLabelField) {
+  Add("T", Rec(13));
+  for (int f = 0; f < kFuncCount; ++f) {
+    if (!IsLiveFunction(f)) continue;
+    Rec r(f);
+    for (const FieldSpec& s : RecordFields(f)) {
+      if (s.kind == FieldSpec::LabelRef) r.LabelRef(s.offset, "T", -5);
+      if (s.kind == FieldSpec::LabelArray) {
+        for (int i = 0; i < s.count; ++i)
+          r.Label(s.offset + 16 * i, "T").I32(s.lineOffset + 4 * i, -5);
+      }
+    }
+    Add("", r);
+  }
+  std::vector<Rec> before;
+  for (int line = 0; line < list().ListCount(); ++line) before.push_back(LineRecord(line));
+  ASSERT_TRUE(UpdateLabels());
+  for (int line = 1; line < list().ListCount(); ++line) {
+    const Rec after = LineRecord(line);
+    Rec expected = before[static_cast<size_t>(line)];
+    for (const FieldSpec& s : RecordFields(after.funcNo)) {
+      if (s.kind == FieldSpec::LabelRef && !(after.funcNo == 30 && s.offset == 36)) {
+        expected.I32(s.offset + 16, 0);
+      }
+      if (s.kind == FieldSpec::LabelArray) {
+        for (int i = 0; i < s.count; ++i) expected.I32(s.lineOffset + 4 * i, 0);
+      }
+    }
+    EXPECT_EQ(after.bytes, expected.bytes) << "function " << after.funcNo;
+  }
 }
 
 }  // namespace

@@ -143,3 +143,20 @@ TEST_F(PrintingTest, FaultInTheListingKeepsThePartialFileAndPrintsNothing) {
 
 }  // namespace
 }  // namespace kq::test
+
+namespace kq::test {
+namespace {
+
+TEST_F(PrintingTest, DialogRangeAndCopiesReachThePrinter) {
+  Remarks(59);  // three pages
+  platform.QueuePrint(ui::PrintDialogRequest{3, 3, 2, 0});
+  PrintCommand();
+  const auto pages = Pages();
+  ASSERT_EQ(pages.size(), 2u);
+  EXPECT_NE(pages[0][0].find("Page No. 003"), std::string::npos);
+  EXPECT_EQ(pages[0], pages[1]);
+  EXPECT_EQ(pages[0].size(), 9u);
+}
+
+}  // namespace
+}  // namespace kq::test
