@@ -265,6 +265,18 @@ TEST_F(MergeTest, FilesThatCannotBeInserted) {
   EXPECT_TRUE(Snapshot::Take() == before);
 }
 
+TEST_F(MergeTest, AnIllegalNumberInTheInsertedFileEndsTheProgram) {
+  kqtest::AddLine(4, "", 1);
+  const std::string part = MakePart("p.kqx");
+  auto bytes = kqtest::ReadBytes(part);
+  const int16_t bad = 22;
+  std::memcpy(&bytes[84009 + 180 + 16], &bad, 2);
+  kqtest::WriteBytes(part, bytes);
+  kqtest::AddLine(13, "", 1);
+  EXPECT_THROW(Insert(part, 0), ui::ProgramEnded);
+  EXPECT_EQ(LastBox(), "Illegal Function Number  22 in Global InsertFile.");
+}
+
 TEST_F(MergeTest, TooManyLinesEndTheCommandWithoutABox) {
   kqtest::AddMixedLines(2);
   const std::string part = MakePart("p.kqx");
