@@ -27,9 +27,8 @@ frmGotoVar::frmGotoVar() : Form("frmGotoVar", "Goto Variable Parameter") {
   for (int i = 0; i < 3; ++i) fraDataType.Place(optDataType[i], i, 0);
   Place(lstVariable, 0, 0, 3, 1);
   Place(fraDataType, 0, 1, 3, 1);
-  Place(lstDataType, 3, 0);
-  Place(cmdOk, 4, 0);
-  Place(cmdCancel, 4, 1);
+  Place(cmdOk, 3, 0);
+  Place(cmdCancel, 3, 1);
   Move(0, 0, 5200, 3800);
 }
 

@@ -2,6 +2,9 @@
 // person drives them, the "Not Found" boxes, and search keys that outlive documents.
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <set>
+
 #include "document/state.h"
 #include "editor/commands.h"
 #include "editor/frm_goto_func.h"
@@ -12,6 +15,7 @@
 #include "editor/frm_line_no.h"
 #include "editor/navigation.h"
 #include "tests/editor/doc_builder.h"
+#include "ui/model/controls.h"
 
 namespace kq::test {
 namespace {
@@ -255,6 +259,52 @@ TEST_F(NavigationTest, PathDialogListsTheNamesOfTheChosenType) {
   GotoCommand(8);
   EXPECT_EQ(Boxes(),
             std::vector<std::string>{"Not Found|Selected path variable Vox not found.|none"});
+}
+
+}  // namespace
+}  // namespace kq::test
+
+namespace kq::test {
+namespace {
+
+// The desktop binding builds each dialog from its layout: every visible control has one
+// cell of its own (frames hold their own grids).
+void ExpectLaidOut(const ui::Form& form) {
+  std::set<const ui::Control*> placed;
+  std::function<void(const ui::Layout&)> collect = [&](const ui::Layout& layout) {
+    std::set<std::pair<int, int>> cells;
+    for (const ui::LayoutItem& item : layout.Items()) {
+      EXPECT_TRUE(placed.insert(item.control).second) << item.control->Name();
+      for (int r = item.row; r < item.row + item.rowSpan; ++r) {
+        for (int c = item.column; c < item.column + item.columnSpan; ++c) {
+          EXPECT_TRUE(cells.insert({r, c}).second) << form.Name() << " cell " << r << "," << c;
+        }
+      }
+      if (item.control->Kind() == ui::ControlKind::Frame) {
+        collect(static_cast<const ui::Frame*>(item.control)->layout());
+      }
+    }
+  };
+  collect(form.layout());
+  for (const ui::Control* c : form.Controls()) {
+    EXPECT_EQ(placed.count(c), c->Visible() ? 1u : 0u) << form.Name() << "." << c->Name();
+  }
+}
+
+TEST_F(NavigationTest, EveryDialogDeclaresItsLayout) {
+  ExpectLaidOut(frmLineNo());
+  ExpectLaidOut(frmLabel());
+  ExpectLaidOut(frmGotoFunc());
+  ExpectLaidOut(frmGotoVar());
+  ExpectLaidOut(frmGotoLabel());
+  ExpectLaidOut(frmGotoPath());
+  EXPECT_EQ(frmGotoVar().fraDataType.Caption(), "Data type");
+  EXPECT_EQ(frmLineNo().Caption(), "Goto Line Number");
+  EXPECT_EQ(frmLabel().Caption(), "Goto Label");
+  EXPECT_EQ(frmGotoFunc().Caption(), "Goto Function");
+  EXPECT_EQ(frmGotoVar().Caption(), "Goto Variable Parameter");
+  EXPECT_EQ(frmGotoLabel().Caption(), "Goto Label Parm.");
+  EXPECT_EQ(frmGotoPath().Caption(), "Goto Path Parameter");
 }
 
 }  // namespace
