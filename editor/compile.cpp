@@ -135,6 +135,9 @@ bool LineVariablesDefined(const VariableIndex& vars, int line, int f) {
       return check(LoadRecord(line, f), {36});
     case 44:
       return check(LoadRecord(line, f), {4, 36});
+    case 50:
+    case 51:
+      return check(LoadRecord(line, f), {32});
     case 54:  // the fifth bus variable, at 128, is not checked
       return check(LoadRecord(line, f), {0, 32, 64, 96});
     case 55: {

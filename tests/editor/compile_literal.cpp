@@ -187,6 +187,9 @@ std::vector<int> VarOffsets(int f) {
     case 47:
     case 48:
       return {0, 32, 64};
+    case 50:
+    case 51:
+      return {32};
     case 54:
       return {0, 32, 64, 96};
     case 55:

@@ -2,6 +2,9 @@
 // labels, and the flags of the Compile menu.
 #include <gtest/gtest.h>
 
+#include <map>
+#include <set>
+
 #include "document/state.h"
 #include "editor/commands.h"
 #include "editor/compile.h"
@@ -366,6 +369,89 @@ TEST_F(CompileTest, UpdateLabelsResolvesEveryLabelField) {
       }
     }
     EXPECT_EQ(after.bytes, expected.bytes) << "function " << after.funcNo;
+  }
+}
+
+}  // namespace
+}  // namespace kq::test
+
+namespace kq::test {
+namespace {
+
+// Which VarRef fields the variable pass checks, by function: each field of the record in
+// turn names an undeclared variable while all others hold constants, every flag is on and
+// every path, table and label is declared.
+TEST_F(CompileTest, VariablePassChecksExactlyTheListedFields) {
+  std::map<int, std::set<int>> checked = {
+      {0, {0, 32}},
+      {2, {0, 32, 64}},
+      {3, {0, 32}},
+      {5, {148}},
+      {6, {4}},
+      {7, {0}},
+      {8, {4}},
+      {11, {0}},
+      {12, {28}},
+      {16, {0}},
+      {19, {44, 88}},
+      {21, {28}},
+      {36, {4}},
+      {37, {0}},
+      {38, {36}},
+      {39, {36}},
+      {41, {0}},
+      {44, {4, 36}},
+      {45, {0, 32}},
+      {46, {0, 32, 64}},
+      {47, {0, 32, 64}},
+      {48, {0, 32, 64}},
+      {50, {32}},
+      {51, {32}},
+      {52, {4}},
+      {53, {28}},
+      {54, {0, 32, 64, 96}},
+      {55, {64, 96, 128, 160, 192, 224, 256, 288}},
+  };
+  // Variable Export: the file always, each of the 25 entries when named (here all are).
+  for (int i = 0; i < 25; ++i) checked[17].insert(32 * i);
+  checked[17].insert(836);
+  for (int f = 0; f < kFuncCount; ++f) {
+    if (!IsLiveFunction(f) || f == 27 || f == 29 || f == 34) continue;
+    std::set<int> offsets;
+    for (const FieldSpec& s : RecordFields(f)) {
+      if (s.kind == FieldSpec::Var) {
+        for (int i = 0; i < s.count; ++i) offsets.insert(s.offset + 32 * i);
+      }
+    }
+    for (int o : offsets) {
+      ResetDocument();
+      list().Clear();
+      for (int t = 0; t < 5; ++t) DeclarePath(kPathExport + t, 0, "P", "/p/");
+      DeclareTable(0, "T");
+      Rec r(f);
+      for (const FieldSpec& s : RecordFields(f)) {
+        for (int i = 0; i < s.count; ++i) {
+          if (s.kind == FieldSpec::Var) r.Var(s.offset + 32 * i, kConstLong, "1");
+          if (s.kind == FieldSpec::Flag) r.I32(s.offset + 4 * i, 1);
+          if (s.kind == FieldSpec::PathType) r.I32(s.offset, kPathExport);
+          if (s.kind == FieldSpec::Text && s.width == 28) r.Text(s.offset + 28 * i, 28, "P");
+          if (s.kind == FieldSpec::Text && s.width == 16) r.Text(s.offset + 16 * i, 16, "T");
+        }
+      }
+      if (f == 3) r.Label(68, "Here");
+      if (f == 16) r.Text(124, 28, "P");
+      r.Var(o, kVarLong, "Nope");
+      Add("Here", r);
+      platform.ClearEvents();
+      const bool compiled = Compile();
+      const bool expectFault = checked.count(f) > 0 && checked.at(f).count(o) > 0;
+      EXPECT_EQ(compiled, !expectFault) << "function " << f << " offset " << o;
+      if (expectFault) {
+        EXPECT_EQ(OnlyBox().second,
+                  "Variable 'Nope' in line 0 is not defined or data type mismatch.")
+            << "function " << f << " offset " << o;
+      }
+    }
   }
 }
 
