@@ -2,6 +2,7 @@
 // labels, and the flags of the Compile menu.
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <map>
 #include <set>
 
@@ -450,6 +451,102 @@ TEST_F(CompileTest, VariablePassChecksExactlyTheListedFields) {
         EXPECT_EQ(OnlyBox().second,
                   "Variable 'Nope' in line 0 is not defined or data type mismatch.")
             << "function " << f << " offset " << o;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace kq::test
+
+namespace kq::test {
+namespace {
+
+// Which path variables the path pass checks, and against which path type: each type has
+// a name of its own ("PA" to "PE"); a record whose fields name the path of the listed type
+// compiles, and each field in turn naming an undeclared path fails.
+TEST_F(CompileTest, PathPassChecksEveryPathFieldAgainstItsType) {
+  const std::map<int, std::map<int, std::string>> paths = {
+      {1, {{4, "PC"}, {32, "PC"}}},
+      {12, {{0, "PB"}}},
+      {16, {{68, "PD"}, {96, "PD"}, {124, "PC"}}},
+      {17, {{808, "PA"}}},
+      {18, {{0, "PD"}}},
+      {21, {{0, "PB"}}},
+      {49, {{4, "PC"}}},
+      {50, {{4, "PC"}}},
+      {51, {{4, "PC"}}},
+      {53, {{0, "PE"}}},
+      {55, {{484, "PC"}, {512, "PC"}, {540, "PC"}, {568, "PC"}}},
+  };
+  auto build = [&](int f, int nope) {
+    ResetDocument();
+    list().Clear();
+    for (int t = 0; t < 5; ++t)
+      DeclarePath(kPathExport + t, 0, std::string("P") + char('A' + t), "/p/");
+    DeclareTable(0, "T");
+    Rec r(f);
+    for (const FieldSpec& s : RecordFields(f)) {
+      for (int i = 0; i < s.count; ++i) {
+        if (s.kind == FieldSpec::Var) r.Var(s.offset + 32 * i, kConstLong, "1");
+        if (s.kind == FieldSpec::Flag) r.I32(s.offset + 4 * i, 1);
+        if (s.kind == FieldSpec::PathType) r.I32(s.offset, kPathNumber);
+        if (s.kind == FieldSpec::Text && s.width == 16) r.Text(s.offset + 16 * i, 16, "T");
+      }
+    }
+    for (const auto& [o, name] : paths.at(f)) r.Text(o, 28, o == nope ? "Nope" : name);
+    Add("", r);
+    platform.ClearEvents();
+  };
+  for (const auto& [f, fields] : paths) {
+    build(f, -1);
+    EXPECT_TRUE(Compile()) << "function " << f;
+    for (const auto& [o, name] : fields) {
+      build(f, o);
+      EXPECT_FALSE(Compile()) << "function " << f << " offset " << o;
+      EXPECT_EQ(OnlyBox().second, "Path variable 'Nope' is not defined.");
+    }
+  }
+  // Say Number's two voice paths count only with their play flags.
+  build(16, 68);
+  Rec r = LineRecord(0);
+  r.I32(60, 0);
+  std::memcpy(FuncBlock[0], r.bytes.data(), r.bytes.size());
+  EXPECT_TRUE(Compile());
+}
+
+}  // namespace
+}  // namespace kq::test
+
+namespace kq::test {
+namespace {
+
+// The table pass: the functions 24 to 34, 38, 39, 40 name their table at 0, Prototype at
+// 596; other 16-character texts (the voice files of Say Number and Voice) are no tables.
+TEST_F(CompileTest, TablePassChecksTheTableNames) {
+  const std::set<int> named = {24, 25, 26, 27, 28, 29, 30, 31, 32, 33, 34, 38, 39, 40, 55};
+  for (int f = 0; f < kFuncCount; ++f) {
+    if (!IsLiveFunction(f)) continue;
+    for (const FieldSpec& s : RecordFields(f)) {
+      if (s.kind != FieldSpec::Text || s.width != 16) continue;
+      ResetDocument();
+      list().Clear();
+      for (int t = 0; t < 5; ++t) DeclarePath(kPathExport + t, 0, "P", "/p/");
+      Rec r(f);
+      for (const FieldSpec& v : RecordFields(f)) {
+        for (int i = 0; i < v.count; ++i) {
+          if (v.kind == FieldSpec::Var) r.Var(v.offset + 32 * i, kConstLong, "1");
+          if (v.kind == FieldSpec::PathType) r.I32(v.offset, kPathExport);
+          if (v.kind == FieldSpec::Text && v.width == 28) r.Text(v.offset + 28 * i, 28, "P");
+        }
+      }
+      r.Text(s.offset, 16, "Nope");
+      Add("", r);
+      platform.ClearEvents();
+      const bool expectFault = named.count(f) > 0;
+      EXPECT_EQ(Compile(), !expectFault) << "function " << f;
+      if (expectFault) {
+        EXPECT_EQ(OnlyBox().second, "Database table name 'Nope' in line 0 is not defined.");
       }
     }
   }
