@@ -8,5 +8,7 @@ namespace kqx {
 int CmdInfo(CliContext& ctx);
 int CmdLines(CliContext& ctx);
 int CmdResave(CliContext& ctx);
+int CmdCompile(CliContext& ctx);
+int CmdList(CliContext& ctx);
 
 }  // namespace kqx
