@@ -6,6 +6,8 @@ const Command kCommands[] = {
     {"info", "FILE", CmdInfo},
     {"lines", "FILE", CmdLines},
     {"resave", "IN OUT", CmdResave},
+    {"compile", "IN [-o OUT]", CmdCompile},
+    {"list", "IN [-o OUT] [--now \"YYYY-MM-DD HH:MM:SS\"]", CmdList},
     {"script", "FILE|- [--settings FILE] [--data DIR] [--home DIR] [--screen W H]", CmdScript},
     {nullptr, nullptr, nullptr},
 };

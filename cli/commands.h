@@ -8,6 +8,8 @@ namespace kqx {
 int CmdInfo(CliContext& ctx);
 int CmdLines(CliContext& ctx);
 int CmdResave(CliContext& ctx);
+int CmdCompile(CliContext& ctx);
+int CmdList(CliContext& ctx);
 int CmdScript(CliContext& ctx);
 
 }  // namespace kqx
