@@ -140,10 +140,9 @@ int DeleteSelectedFromStores(ui::ListBox& list) {
     return 0;
   }
   const int first = deleted.front();
+  if (n > kMaxListLines) return DeleteSelectedLiterally(list);
   for (int i = first; i < n; ++i) {
-    if (!IsLiveFunction(LineTable[i].LineFuncNo) || n > kMaxListLines) {
-      return DeleteSelectedLiterally(list);
-    }
+    if (!IsLiveFunction(LineTable[i].LineFuncNo)) return DeleteSelectedLiterally(list);
   }
 
   std::vector<char> isDeleted(static_cast<size_t>(n), 0);
