@@ -114,7 +114,8 @@ class ScriptRunner : public ::testing::Test {
 };
 
 TEST_F(ScriptRunner, TypingGoesThroughKeyPressAndMaxLength) {
-  EXPECT_EQ(0, Run("frmMain.txtDigits.Type \"1a2b345\"\n"
+  EXPECT_EQ(0, Run("\xEF\xBB\xBF"
+                   "frmMain.txtDigits.Type \"1a2b345\"\n"
                    "frmMain.txtDigits.Key 8\n"
                    "frmMain.txtName.Type \"Zoë \\\"q\\\"\"\n"
                    "show frmMain.txtName\n"));
