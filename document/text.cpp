@@ -61,7 +61,9 @@ std::string Num(int64_t n) {
 }
 
 std::string Str(int64_t n) {
-  return n < 0 ? std::to_string(n) : " " + std::to_string(n);
+  char buf[24];
+  std::snprintf(buf, sizeof buf, n < 0 ? "%lld" : " %lld", static_cast<long long>(n));
+  return buf;
 }
 
 std::string Str(double d) {
