@@ -138,6 +138,14 @@ void SaveFile(std::string& title, std::string& fileName, bool saveAll, int first
   (void)title;
   ui::Platform& p = ui::platform();
   p.SetMousePointer(ui::vbHourglass);
+  // A range with lines outside the list (Save Part As with no line selected asks for
+  // lines -1 to 0) is an array bound error: it goes to the handler, which shows nothing
+  // and raises it, and the command ends before anything is written or staged.
+  if (lastLine >= firstLine && (firstLine < 0 || lastLine >= EditList().ListCount())) {
+    HandleDiskError("Save", kErrSubscript);
+    p.SetMousePointer(ui::vbDefault);
+    return;
+  }
   StageHeader(saveAll, firstLine, lastLine, lineCount);
 
   std::vector<uint8_t> bytes;

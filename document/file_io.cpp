@@ -19,6 +19,11 @@ struct WriteFault {
   int times = 0;
 } g_fault;
 
+struct ReadFault {
+  int errnoValue = 0;
+  int times = 0;
+} g_readFault;
+
 int Fail() {
   return SystemErrorNumber(errno);
 }
@@ -51,6 +56,10 @@ int WriteAll(int fd, const uint8_t* data, size_t size) {
 
 int ReadWholeFile(const std::string& path, std::vector<uint8_t>& bytes) {
   bytes.clear();
+  if (g_readFault.times > 0) {
+    --g_readFault.times;
+    return SystemErrorNumber(g_readFault.errnoValue);
+  }
   int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (fd < 0 && errno == ENOENT) {
     fd = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
@@ -113,6 +122,10 @@ int WriteWholeFile(const std::string& path, const uint8_t* data, size_t size) {
 
 void InjectWriteFault(int errnoValue, size_t afterBytes, int times) {
   g_fault = {errnoValue, afterBytes, times};
+}
+
+void InjectReadFault(int errnoValue, int times) {
+  g_readFault = {errnoValue, times};
 }
 
 }  // namespace kq

@@ -21,5 +21,8 @@ int WriteWholeFile(const std::string& path, const uint8_t* data, size_t size);
 // For tests: the next `times` writes fail with `errnoValue` once `afterBytes` bytes of
 // the file have been written, like a device that fills up.
 void InjectWriteFault(int errnoValue, size_t afterBytes, int times);
+// For tests: the next `times` reads of a file fail with `errnoValue`, like a drive that
+// cannot be read.
+void InjectReadFault(int errnoValue, int times);
 
 }  // namespace kq

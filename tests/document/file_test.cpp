@@ -313,3 +313,87 @@ TEST_F(FileTest, SaveIntoAMissingFolderGivesThePathBox) {
 }
 
 }  // namespace
+
+namespace {
+
+using namespace kq;
+using kqtest::DocTest;
+using kqtest::ReadBytes;
+using kqtest::Snapshot;
+
+class FileErrorTest : public DocTest {
+ protected:
+  std::string LastBox(const char* field = "text") {
+    auto boxes = platform_.EventsOf("msgbox");
+    return boxes.empty() ? "" : boxes.back().fields[field].Str();
+  }
+};
+
+TEST_F(FileErrorTest, ReadErrorOnOpenRetriesUnderTheOpenTitle) {
+  kqtest::AddMixedLines(3);
+  const std::string path = TempPath("r.kqx");
+  kqtest::SaveAll(path);
+  InitDocument();
+  list().Clear();
+
+  // Retry: the second read succeeds and the file opens.
+  InjectReadFault(EIO, 1);
+  platform_.QueueAnswer(ui::vbRetry);
+  EXPECT_EQ(kqtest::Open(path, "r.kqx"), "r.kqx");
+  ASSERT_EQ(platform_.CountOf("msgbox"), 1);
+  EXPECT_EQ(LastBox(),
+            "Cannot read selected drive.\rMake sure that the drive door is closed and that the "
+            "disk is formatted and free of errors.");
+  EXPECT_EQ(LastBox("title"), "Open");
+  EXPECT_EQ(list().ListCount(), 3);
+
+  // Cancel: the command ends with the document as it was, title Untitled, name empty.
+  platform_.ClearEvents();
+  const Snapshot before = Snapshot::Take();
+  InjectReadFault(EIO, 1);
+  platform_.QueueAnswer(ui::vbCancel);
+  std::string title = "r.kqx", name = path;
+  OpenFile(title, name);
+  EXPECT_EQ(platform_.CountOf("msgbox"), 1);
+  EXPECT_EQ(title, "Untitled");
+  EXPECT_EQ(name, "");
+  EXPECT_TRUE(Snapshot::Take() == before);
+  EXPECT_EQ(platform_.MousePointer(), 0);
+}
+
+TEST_F(FileErrorTest, ReadErrorOnInsertLeavesTheDocument) {
+  kqtest::AddMixedLines(2);
+  const std::string path = TempPath("i.kqx");
+  kqtest::SaveAll(path);
+  const Snapshot before = Snapshot::Take();
+  InjectReadFault(ENXIO, 1);
+  platform_.QueueAnswer(ui::vbCancel);
+  std::string title = "i.kqx", name = path;
+  InsertFile(title, name, 0);
+  EXPECT_EQ(LastBox(), "There is no disk in the selected drive.Insert a disk and try again.");
+  EXPECT_EQ(LastBox("title"), "Insert");
+  EXPECT_TRUE(Snapshot::Take() == before);
+}
+
+// Save Part As with no line selected hands over first -1, last 0 and count 2: there is
+// no such line, so the command ends without a word, writing nothing and keeping the
+// document's state.
+TEST_F(FileErrorTest, SavePartWithoutASelectionWritesNothing) {
+  kqtest::FillDeclarations();
+  kqtest::AddMixedLines(3);
+  ChangedFlag = true;
+  int recent = 0;
+  Shell.addRecentFile = [&](const std::string&) { ++recent; };
+  const Snapshot before = Snapshot::Take();
+  std::string title = "part.kqx", name = TempPath("part.kqx");
+  int16_t count = 2;
+  SaveFile(title, name, false, -1, 0, count);
+  EXPECT_EQ(platform_.CountOf("msgbox"), 0);
+  EXPECT_FALSE(std::filesystem::exists(name));
+  EXPECT_TRUE(Snapshot::Take() == before);
+  EXPECT_TRUE(ChangedFlag);
+  EXPECT_EQ(recent, 0);
+  EXPECT_EQ(platform_.MousePointer(), 0);
+}
+
+}  // namespace
