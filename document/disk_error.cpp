@@ -65,7 +65,9 @@ int SystemErrorNumber(int errnoValue) {
     case ENOTDIR:
       return kErrPathNotFound;
     default:
-      return errnoValue;
+      // Not the errno value itself: some of them (ENODATA, EPROTO) share a number with
+      // the disk errors above and would show the wrong box.
+      return kErrFileAccess;
   }
 }
 

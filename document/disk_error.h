@@ -19,13 +19,14 @@ inline constexpr int kErrDeviceUnavailable = 68;
 inline constexpr int kErrPermissionDenied = 70;
 inline constexpr int kErrDiskNotReady = 71;
 inline constexpr int kErrPathNotFound = 76;
+inline constexpr int kErrFileAccess = 75;
 
 // Shows the box for the error under the title and returns the action code.
 int HandleDiskError(const std::string& title, int errorNumber);
 
 // The system's error number for an errno value: 61 disk full, 68 device unavailable,
-// 70 permission denied, 71 not ready, 76 path not found; any other value stands for
-// itself.
+// 70 permission denied, 71 not ready, 76 path not found; any other value is a file
+// access error (75), which has no box of its own.
 int SystemErrorNumber(int errnoValue);
 
 }  // namespace kq

@@ -70,7 +70,11 @@ TEST(SystemErrorNumber, MapsTheErrorsOfThisPlatform) {
   EXPECT_EQ(SystemErrorNumber(EBUSY), 71);
   EXPECT_EQ(SystemErrorNumber(ENOENT), 76);
   EXPECT_EQ(SystemErrorNumber(ENOTDIR), 76);
-  EXPECT_EQ(SystemErrorNumber(EISDIR), EISDIR);
+  // Any other failure is a file access error, whatever its errno value happens to be.
+  EXPECT_EQ(SystemErrorNumber(EISDIR), 75);
+  EXPECT_EQ(SystemErrorNumber(ENODATA), 75);
+  EXPECT_EQ(SystemErrorNumber(EPROTO), 75);
+  EXPECT_EQ(SystemErrorNumber(ENOTUNIQ), 75);
 }
 
 }  // namespace
