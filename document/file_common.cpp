@@ -2,6 +2,7 @@
 
 #include "document/disk_error.h"
 #include "document/file_io.h"
+#include "document/kqx_format.h"
 #include "document/text.h"
 #include "ui/platform/platform.h"
 
@@ -10,7 +11,7 @@ namespace kq {
 bool ReadFileForCommand(const std::string& title, const std::string& path,
                         std::vector<uint8_t>& bytes) {
   for (int attempt = 1;; ++attempt) {
-    const int err = ReadWholeFile(path, bytes);
+    const int err = ReadWholeFile(path, bytes, kMaxKqxFileSize);
     if (err == 0) return true;
     // Leave, raise and any other answer end the command; the document is untouched.
     if (HandleDiskError(title, err) != kDiskRetry || attempt >= kMaxRetries) return false;

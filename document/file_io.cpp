@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 
@@ -54,7 +55,7 @@ int WriteAll(int fd, const uint8_t* data, size_t size) {
 
 }  // namespace
 
-int ReadWholeFile(const std::string& path, std::vector<uint8_t>& bytes) {
+int ReadWholeFile(const std::string& path, std::vector<uint8_t>& bytes, size_t limit) {
   bytes.clear();
   if (g_readFault.times > 0) {
     --g_readFault.times;
@@ -75,7 +76,7 @@ int ReadWholeFile(const std::string& path, std::vector<uint8_t>& bytes) {
     ::close(fd);
     return kErrPathNotFound;
   }
-  bytes.resize(static_cast<size_t>(st.st_size));
+  bytes.resize(std::min(static_cast<size_t>(st.st_size), limit));
   size_t done = 0;
   while (done < bytes.size()) {
     const ssize_t n = ::read(fd, bytes.data() + done, bytes.size() - done);

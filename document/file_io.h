@@ -9,9 +9,9 @@
 
 namespace kq {
 
-// Reads the file into `bytes`. An absent file is created empty, as the binary open of
-// the system made it, and reads as 0 bytes.
-int ReadWholeFile(const std::string& path, std::vector<uint8_t>& bytes);
+// Reads the file into `bytes`, at most `limit` bytes of it. An absent file is created
+// empty, as the binary open of the system made it, and reads as 0 bytes.
+int ReadWholeFile(const std::string& path, std::vector<uint8_t>& bytes, size_t limit = SIZE_MAX);
 
 // Writes the bytes to a temporary name beside the file, then renames it over the file,
 // so that a failing write leaves the last good file in place. The file keeps its

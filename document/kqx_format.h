@@ -20,6 +20,10 @@ inline constexpr size_t kVersionSize = 5;
 inline constexpr size_t kHeaderSize = 84009;
 inline constexpr size_t kHeaderSize308 = 59814;
 inline constexpr size_t kProgramLineSize = 35;
+// No application file needs more bytes than this: the header and 10,001 lines of the
+// largest record. Bytes behind it are never read.
+inline constexpr size_t kMaxKqxFileSize =
+    kHeaderSize + static_cast<size_t>(kMaxLines) * (kDisplayLineWidth + kProgramLineSize + 888);
 
 // Compares the five bytes exactly, NUL included, with "3.10", "3.08" and "3.09".
 KqxVersion VersionOf(const char (&version)[5]);

@@ -10,6 +10,7 @@
 #include "document/document.h"
 #include "document/file.h"
 #include "document/file_io.h"
+#include "document/kqx_format.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "tests/document/doc_fixture.h"
@@ -394,6 +395,34 @@ TEST_F(FileErrorTest, SavePartWithoutASelectionWritesNothing) {
   EXPECT_TRUE(ChangedFlag);
   EXPECT_EQ(recent, 0);
   EXPECT_EQ(platform_.MousePointer(), 0);
+}
+
+}  // namespace
+
+namespace {
+
+using namespace kq;
+
+// Bytes behind the largest possible application are never read: a huge file chosen by
+// mistake cannot exhaust the memory.
+TEST_F(FileErrorTest, ReadsStopAtTheLargestApplication) {
+  kqtest::AddMixedLines(2);
+  const std::string path = TempPath("tail.kqx");
+  kqtest::SaveAll(path);
+  auto bytes = ReadBytes(path);
+  const size_t size = bytes.size();
+  bytes.resize(size + 1000, 0x55);
+  kqtest::WriteBytes(path, bytes);
+  std::vector<uint8_t> read;
+  EXPECT_EQ(ReadWholeFile(path, read, size + 10), 0);
+  EXPECT_EQ(read.size(), size + 10);
+  EXPECT_EQ(ReadWholeFile(path, read), 0);
+  EXPECT_EQ(read.size(), size + 1000);
+  // Trailing bytes do not matter to the reader.
+  InitDocument();
+  list().Clear();
+  EXPECT_EQ(kqtest::Open(path, "tail.kqx"), "tail.kqx");
+  EXPECT_EQ(list().ListCount(), 2);
 }
 
 }  // namespace
