@@ -99,6 +99,11 @@ int WriteWholeFile(const std::string& path, const uint8_t* data, size_t size) {
   const std::string temp = path + ".kqx-save";
   struct stat old {};
   const bool existed = ::stat(path.c_str(), &old) == 0;
+  // A file marked read-only is not replaced: the rename would get past the mark that
+  // writing into the file itself would respect.
+  if (existed && S_ISREG(old.st_mode) && (old.st_mode & 0222) == 0) {
+    return SystemErrorNumber(EACCES);
+  }
   const int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
   if (fd < 0) return Fail();
   if (WriteAll(fd, data, size) != 0) {

@@ -15,7 +15,8 @@ int ReadWholeFile(const std::string& path, std::vector<uint8_t>& bytes, size_t l
 
 // Writes the bytes to a temporary name beside the file, then renames it over the file,
 // so that a failing write leaves the last good file in place. The file keeps its
-// permissions when it existed.
+// permissions when it existed; a file without any write permission is refused as
+// permission denied.
 int WriteWholeFile(const std::string& path, const uint8_t* data, size_t size);
 
 // For tests: the next `times` writes fail with `errnoValue` once `afterBytes` bytes of

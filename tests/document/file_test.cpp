@@ -426,3 +426,35 @@ TEST_F(FileErrorTest, ReadsStopAtTheLargestApplication) {
 }
 
 }  // namespace
+
+namespace {
+
+using namespace kq;
+
+// Saving over a file marked read-only is refused as write-protected, as writing into
+// the file would be, and the file stays as it was.
+TEST_F(FileErrorTest, ReadOnlyFileIsNotReplaced) {
+  kqtest::AddMixedLines(2);
+  const std::string path = TempPath("ro.kqx");
+  kqtest::SaveAll(path);
+  const auto old = ReadBytes(path);
+  std::filesystem::permissions(path, std::filesystem::perms::owner_read |
+                                         std::filesystem::perms::group_read |
+                                         std::filesystem::perms::others_read);
+  kqtest::AddLine(13, "", 5);
+  ChangedFlag = true;
+  platform_.ClearEvents();
+  kqtest::SaveAll(path);
+  EXPECT_EQ(LastBox(),
+            "This disk is write-protected.\r\rRemove the write-protection or use another disk.");
+  EXPECT_EQ(LastBox("title"), "Save");
+  EXPECT_TRUE(ReadBytes(path) == old);
+  EXPECT_TRUE(ChangedFlag);
+  std::filesystem::permissions(path, std::filesystem::perms::owner_write,
+                               std::filesystem::perm_options::add);
+  kqtest::SaveAll(path);
+  EXPECT_FALSE(ChangedFlag);
+  EXPECT_EQ(ReadBytes(path).size(), old.size() + 180 + 35 + 52);
+}
+
+}  // namespace
