@@ -436,17 +436,5 @@ TEST_F(DataDialogTest, InStringSearchesForAText) {
             Bytes(Var(0, "Count")) + Bytes(Var(2, "Name")) + Bytes(Var(10, "ab")));
 }
 
-TEST_F(DataDialogTest, StringFunctionsNeedLongAndStringVariables) {
-  kq::PrgHdr.Variable[2] = kq::BlankVarRef;  // Name
-  kq::PrgHdr.Variable[4] = kq::BlankVarRef;  // Word
-  for (int funcNo : {45, 46, 47, 48}) {
-    PrepareNew(funcNo);
-    kq::GetFuncParm(funcNo);
-  }
-  EXPECT_EQ(BoxTexts(), std::vector<std::string>(
-                            4, "Define a long and string variable before using this function."));
-  EXPECT_EQ(p.CountOf("show"), 0);
-}
-
 }  // namespace
 }  // namespace kqtest
