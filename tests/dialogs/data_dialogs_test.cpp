@@ -375,6 +375,19 @@ TEST_F(DataDialogTest, TrimStringTakesATypedSourceButNotATarget) {
   }
 }
 
+TEST_F(DataDialogTest, TrimStringWithAnActionNoOptionShowsMustChooseOne) {
+  AddLine("", 44);
+  kq::RecordSet rec = kq::InitRecord;
+  rec.TrimString.TrimAction = 3;
+  PrepareModify(0, rec);
+  Run<kq::frmTrimStr>(44, [&](kq::frmTrimStr& d) {
+    ExpectRefused(d, "optAction(0)");
+    d.optAction[1].UserClick();
+    d.cmdOk.UserClick();
+  });
+  EXPECT_EQ(kq::WorkRecord.TrimString.TrimAction, 1);
+}
+
 TEST_F(DataDialogTest, LenStringCountsIntoALong) {
   Run<kq::frmLenStr>(45, [&](kq::frmLenStr& d) {
     EXPECT_EQ(d.lblEqual.Caption(), "= LEN(");
