@@ -3,15 +3,27 @@
 #include <memory>
 #include <set>
 
+#include "dialogs/frm_assign.h"
+#include "dialogs/frm_assign_pa.h"
+#include "dialogs/frm_calculate.h"
 #include "dialogs/frm_condition.h"
 #include "dialogs/frm_def_var.h"
 #include "dialogs/frm_delay.h"
 #include "dialogs/frm_func.h"
+#include "dialogs/frm_get_ch_no.h"
+#include "dialogs/frm_get_date.h"
+#include "dialogs/frm_get_day_of_week.h"
+#include "dialogs/frm_get_time.h"
 #include "dialogs/frm_gosub.h"
 #include "dialogs/frm_goto.h"
+#include "dialogs/frm_in_str.h"
+#include "dialogs/frm_left_str.h"
+#include "dialogs/frm_len_str.h"
 #include "dialogs/frm_random.h"
 #include "dialogs/frm_remark.h"
 #include "dialogs/frm_return.h"
+#include "dialogs/frm_right_str.h"
+#include "dialogs/frm_trim_str.h"
 #include "tests/dialogs/dialog_fixture.h"
 
 namespace kqtest {
@@ -57,6 +69,18 @@ TEST(DialogLayout, EveryFormPlacesEveryVisibleControlOnce) {
   forms.push_back(std::make_unique<kq::frmReturn>());
   forms.push_back(std::make_unique<kq::frmFunc>());
   forms.push_back(std::make_unique<kq::frmDefVar>());
+  forms.push_back(std::make_unique<kq::frmAssign>());
+  forms.push_back(std::make_unique<kq::frmAssignPa>());
+  forms.push_back(std::make_unique<kq::frmCalculate>());
+  forms.push_back(std::make_unique<kq::frmGetChNo>());
+  forms.push_back(std::make_unique<kq::frmGetDate>());
+  forms.push_back(std::make_unique<kq::frmGetDayOfWeek>());
+  forms.push_back(std::make_unique<kq::frmGetTime>());
+  forms.push_back(std::make_unique<kq::frmInStr>());
+  forms.push_back(std::make_unique<kq::frmLeftStr>());
+  forms.push_back(std::make_unique<kq::frmLenStr>());
+  forms.push_back(std::make_unique<kq::frmRightStr>());
+  forms.push_back(std::make_unique<kq::frmTrimStr>());
   for (const auto& f : forms) ExpectLaidOut(*f);
 }
 
