@@ -84,6 +84,11 @@ void TableNavDialog::LoadFields(const RecordSet& rec, bool /*modify*/) {
   GetListBoxDBTbl(cboName, View(r.TableName));
   GetListBoxLabel(cboLabel, View(r.ErrorLabel.LabelRefName));
   GetListBoxLabel(*second_, View(r.NoDataLabel.LabelRefName));
+  // Insert Record's default second label is all NULs; a window's text ends at its first NUL.
+  const std::string& text = second_->Text();
+  if (const size_t nul = text.find('\0'); nul != std::string::npos) {
+    second_->SetText(text.substr(0, nul));
+  }
 }
 
 bool TableNavDialog::Accept(std::string& parameters) {
