@@ -24,19 +24,20 @@ WhereDialog::WhereDialog(std::string name, std::string caption, int funcNo,
     cboVar[i].OnKeyPress = [this, i](int& k) { cboVar_KeyPress(i, k); };
   }
 
+  // The grid's caption line stands under "WHERE", the five rows under it.
   PlaceNameRow();
   Place(lblWhere, 2, 0);
-  Place(Label1, 2, 1, 1, 3);
+  Place(Label1, 3, 0, 1, 4);
   for (int i = 0; i < kRows; ++i) {
-    Place(cboField[i], 3 + i, 0);
-    Place(txtVar[i], 3 + i, 1);
-    Place(cboOperator[i], 3 + i, 2);
-    Place(cboVar[i], 3 + i, 3);
+    Place(cboField[i], 4 + i, 0);
+    Place(txtVar[i], 4 + i, 1);
+    Place(cboOperator[i], 4 + i, 2);
+    Place(cboVar[i], 4 + i, 3);
   }
-  Place(lblError, 8, 0);
-  Place(cboLabel, 8, 1, 1, 2);
-  PlaceButtonRow(9, 4);
-  Move(0, 0, 7200, 4600);
+  Place(lblError, 9, 0);
+  Place(cboLabel, 9, 1, 1, 2);
+  PlaceButtonRow(10, 4);
+  Move(0, 0, 7200, 4900);
 }
 
 int WhereDialog::FindTable(const std::string& name) {
