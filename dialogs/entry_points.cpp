@@ -1,5 +1,6 @@
 // The dialogs the editor opens from its menus.
 #include "dialogs/dialogs.h"
+#include "dialogs/frm_def_db_tbl.h"
 #include "dialogs/frm_def_var.h"
 #include "dialogs/frm_func.h"
 
@@ -15,8 +16,12 @@ void ShowDefineVariables() {
   dialog.ShowModal();
 }
 
-// The path and table declarations come with their own dialogs.
+// The path declarations come with their own dialog.
 void ShowDefinePaths() {}
-void ShowDefineTables() {}
+
+void ShowDefineTables() {
+  frmDefDBTbl dialog;
+  dialog.ShowModal();
+}
 
 }  // namespace kq

@@ -1,24 +1,38 @@
 // The dialog of each function number. Functions whose dialogs are not here yet answer
 // false, and GetFuncParm says so.
+#include "dialogs/frm_add_rec.h"
 #include "dialogs/frm_assign.h"
 #include "dialogs/frm_assign_pa.h"
 #include "dialogs/frm_calculate.h"
 #include "dialogs/frm_condition.h"
+#include "dialogs/frm_connect_tbl.h"
 #include "dialogs/frm_delay.h"
+#include "dialogs/frm_delete_rec.h"
+#include "dialogs/frm_disconnect_tbl.h"
+#include "dialogs/frm_empty_tbl.h"
 #include "dialogs/frm_get_ch_no.h"
 #include "dialogs/frm_get_date.h"
 #include "dialogs/frm_get_day_of_week.h"
+#include "dialogs/frm_get_first_rec.h"
+#include "dialogs/frm_get_last_rec.h"
+#include "dialogs/frm_get_next_rec.h"
+#include "dialogs/frm_get_no_rec.h"
+#include "dialogs/frm_get_prev_rec.h"
+#include "dialogs/frm_get_rec_no.h"
 #include "dialogs/frm_get_time.h"
 #include "dialogs/frm_gosub.h"
 #include "dialogs/frm_goto.h"
 #include "dialogs/frm_in_str.h"
+#include "dialogs/frm_insert_rec.h"
 #include "dialogs/frm_left_str.h"
 #include "dialogs/frm_len_str.h"
 #include "dialogs/frm_random.h"
 #include "dialogs/frm_remark.h"
 #include "dialogs/frm_return.h"
 #include "dialogs/frm_right_str.h"
+#include "dialogs/frm_select_rec.h"
 #include "dialogs/frm_trim_str.h"
+#include "dialogs/frm_update_rec.h"
 #include "dialogs/func_dialog.h"
 
 namespace kq {
@@ -60,8 +74,36 @@ bool ShowFuncDialog(int funcNo) {
       return Show<frmRemark>();
     case 14:
       return Show<frmReturn>();
+    case 24:
+      return Show<frmConnectTbl>();
+    case 25:
+      return Show<frmDisconnectTbl>();
+    case 26:
+      return Show<frmAddRec>();
+    case 27:
+      return Show<frmDeleteRec>();
+    case 28:
+      return Show<frmGetFirstRec>();
+    case 29:
+      return Show<frmSelectRec>();
+    case 30:
+      return Show<frmInsertRec>();
+    case 31:
+      return Show<frmGetLastRec>();
+    case 32:
+      return Show<frmGetNextRec>();
+    case 33:
+      return Show<frmGetPrevRec>();
+    case 34:
+      return Show<frmUpdateRec>();
     case 36:
       return Show<frmGetDayOfWeek>();
+    case 38:
+      return Show<frmGetRecNo>();
+    case 39:
+      return Show<frmGetNoRec>();
+    case 40:
+      return Show<frmEmptyTbl>();
     case 41:
       return Show<frmGetChNo>();
     case 44:
