@@ -429,6 +429,33 @@ TEST_F(EditorTest, TheInsertKeyWorksWhateverTheMenuSays) {
   EXPECT_EQ(2, PrgHdr.LineCount);
 }
 
+// Enter on the list modifies the line once, whether it arrives as the key going down or as
+// the character it types; the key going down is taken, so no character follows it.
+TEST_F(EditorTest, EnterOnTheListModifiesOnce) {
+  FrmEdit& f = Start();
+  f.mnuFileItem[0].UserClick();
+  QueueRemarkLine(platform_, "a");
+  f.mnuEditItem[0].UserClick();
+  auto modifyTo = [this](const std::string& text) {
+    platform_.QueueModal("frmRemark", [text](ui::Form& form) {
+      auto& d = static_cast<frmRemark&>(form);
+      d.txtRemark.SetText(text);
+      d.cmdOk.UserClick();
+    });
+  };
+  platform_.ClearEvents();
+  modifyTo("typed");
+  f.UserKey(f.lstEdit, 13);
+  EXPECT_EQ("0000\t\tRemark           \ttyped", f.lstEdit.List(0));
+  EXPECT_EQ(1, platform_.CountOf("show"));
+
+  modifyTo("pressed");
+  EXPECT_EQ(0, f.lstEdit.RaiseKeyDown(ui::vbKeyReturn, 0));
+  EXPECT_EQ("0000\t\tRemark           \tpressed", f.lstEdit.List(0));
+  EXPECT_EQ(2, platform_.CountOf("show"));
+  EXPECT_EQ(1, PrgHdr.LineCount);
+}
+
 TEST_F(EditorTest, ModifyTakesTheLineWithTheFocusAndKeepsTheCount) {
   FrmEdit& f = Start();
   f.mnuFileItem[0].UserClick();

@@ -213,6 +213,22 @@ TEST_F(ScriptRunner, WrongLinesStopTheScriptWithTheirLineNumber) {
   }
 }
 
+// Words outside quotes are UTF-8 too: a wrong one comes back in the error as it was written,
+// and an escape of a letter outside ASCII names that one letter.
+TEST_F(ScriptRunner, WordsOutsideQuotesAreTurnedIntoTheCodePageToo) {
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"answer Peut-\xC3\xAAtre", "unknown answer Peut-\xC3\xAAtre"},
+      {"frmMain.txt\xC3\x9C.Click", "unknown control frmMain.txt\xC3\x9C"},
+      {"frmMain.txtName.Text \"a\\\xC3\xA9\"", "unknown escape \\\\\xC3\xA9"},
+  };
+  for (const auto& [line, message] : cases) {
+    out_.str("");
+    EXPECT_EQ(ui::kScriptWrong, Run(line + "\n")) << line;
+    EXPECT_EQ("{\"event\":\"error\",\"line\":1,\"message\":\"" + message + "\"}", Lines().back())
+        << line;
+  }
+}
+
 TEST_F(ScriptRunner, AProgramErrorEndsTheRunWithStatusTwo) {
   EXPECT_EQ(ui::kScriptProgramEnded, Run("frmMain.cmdFail.Click\nfrmMain.txtName.Text \"x\"\n"));
   const auto lines = Lines();

@@ -22,11 +22,11 @@ struct ScriptError {
 };
 
 struct Token {
-  std::string text;  // a quoted string is unescaped and in Windows-1252
+  std::string text;  // in Windows-1252; a quoted string is unescaped
   bool quoted = false;
 };
 
-// Splits a line into words and quoted strings.
+// Splits a line (already in Windows-1252) into words and quoted strings.
 std::optional<std::vector<Token>> Tokenize(std::string_view line, std::string& problem) {
   std::vector<Token> tokens;
   size_t i = 0;
@@ -78,7 +78,7 @@ std::optional<std::vector<Token>> Tokenize(std::string_view line, std::string& p
         problem = "string without its closing quote";
         return std::nullopt;
       }
-      t.text = Utf8ToCp1252(raw);
+      t.text = std::move(raw);
     } else {
       while (i < line.size() && line[i] != ' ' && line[i] != '\t' && line[i] != '\r') {
         if (line[i] == '"') {
@@ -294,8 +294,11 @@ class Runner {
     std::string_view line(raw);
     while (!line.empty() && (line.front() == ' ' || line.front() == '\t')) line.remove_prefix(1);
     if (line.empty() || line.front() == '#' || line == "\r") return;
+    // The script is UTF-8; every word of it, quoted or not, is taken in the system's code
+    // page (quotes, blanks and backslashes are the same in both).
+    const std::string text = Utf8ToCp1252(std::string(line));
     std::string problem;
-    auto tokens = Tokenize(line, problem);
+    auto tokens = Tokenize(text, problem);
     if (!tokens) Wrong(problem);
     if (tokens->empty()) return;
     const std::vector<Token>& t = *tokens;
