@@ -1,6 +1,7 @@
 // The main window: start-up settings and geometry, the speech formats, the menus of the
 // three document states, the closing prompts, the recent files and the list's own keys.
 #include <filesystem>
+#include <fstream>
 
 #include "dialogs/frm_func.h"
 #include "dialogs/frm_remark.h"
@@ -273,6 +274,33 @@ TEST_F(EditorTest, FileDeleteAsksOnceAndGoesBackToNoDocument) {
   EXPECT_EQ("", ApplFileName);
   EXPECT_EQ(0, f.lstEdit.ListCount());
   EXPECT_FALSE(f.mnuEdit.Enabled() || f.mnuDefine.Enabled() || f.mnuFileItem[7].Enabled());
+  std::filesystem::remove_all(dir);
+}
+
+// Delete removes the document's file, as a file; a folder that stands under that name is not
+// the document and stays, and the editor goes back to no document either way.
+TEST_F(EditorTest, FileDeleteRemovesTheFileButNeverAFolder) {
+  const auto dir = std::filesystem::temp_directory_path() / "kq-shell-delete-kinds";
+  std::filesystem::remove_all(dir);
+  std::filesystem::create_directories(dir);
+  platform_.SetUserDirectory(dir.string());
+  FrmEdit& f = Start();
+  const auto file = dir / "temp.kqx";
+
+  f.mnuFileItem[0].UserClick();
+  std::ofstream(file) << "x";
+  platform_.QueueAnswer(ui::vbOK);
+  f.mnuFileItem[7].UserClick();
+  EXPECT_FALSE(std::filesystem::exists(file));
+  EXPECT_EQ("Untitled", ApplFileTitle);
+
+  f.mnuFileItem[0].UserClick();
+  std::filesystem::create_directory(file);
+  platform_.QueueAnswer(ui::vbOK);
+  f.mnuFileItem[7].UserClick();
+  EXPECT_TRUE(std::filesystem::is_directory(file));
+  EXPECT_EQ("Untitled", ApplFileTitle);
+  EXPECT_EQ("", ApplFileName);
   std::filesystem::remove_all(dir);
 }
 
