@@ -378,6 +378,7 @@ class Runner {
     Arity(t, 2);
     const auto target = ParseTarget(t[1].text);
     if (!target) Wrong("bad target " + t[1].text);
+    CheckKnownForm(target->form);
     Form* form = OpenForm(target->form);
     if (target->control.empty()) {
       if (form != nullptr) {
@@ -395,6 +396,10 @@ class Runner {
     Control* c = form->FindControl(target->control, target->index);
     if (c == nullptr) Wrong("unknown control " + t[1].text);
     p_.Record(ControlState(*c));
+  }
+
+  void CheckKnownForm(const std::string& name) {
+    if (hooks_.knownForm && !hooks_.knownForm(name)) Wrong("unknown form " + name);
   }
 
   // The form a person can act on: shown, and the one on top.
@@ -418,6 +423,7 @@ class Runner {
     const std::string action = head.substr(dot + 1);
     const auto target = ParseTarget(head.substr(0, dot));
     if (!target || action.empty()) Wrong("bad target " + head);
+    CheckKnownForm(target->form);
 
     if (target->control.empty()) {
       if (action != "Close") Wrong("a form takes only Close");
