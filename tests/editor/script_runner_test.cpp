@@ -149,6 +149,30 @@ TEST_F(ScriptRunner, ListsCombosChecksAndOptions) {
   EXPECT_NE(std::string::npos, Lines().back().find("\"items\":[\"one  \",\"two\"]"));
 }
 
+// The fields of a control's state come in one order for every kind: caption, text, enabled,
+// visible, value, then those of lists.
+TEST_F(ScriptRunner, ShowOfAControlGivesItsFieldsInTheirOrder) {
+  EXPECT_EQ(0, Run("frmMain.chkFlag.Value 1\n"
+                   "show frmMain.chkFlag\n"
+                   "show frmMain.optA(1)\n"
+                   "show frmMain.cboKind\n"));
+  const auto lines = Lines();
+  ASSERT_EQ(4u, lines.size());
+  EXPECT_EQ(
+      "{\"event\":\"state\",\"form\":\"frmMain\",\"control\":\"chkFlag\",\"index\":null,"
+      "\"caption\":\"Flag\",\"enabled\":true,\"visible\":true,\"value\":1}",
+      lines[1]);
+  EXPECT_EQ(
+      "{\"event\":\"state\",\"form\":\"frmMain\",\"control\":\"optA\",\"index\":1,"
+      "\"caption\":\"B\",\"enabled\":true,\"visible\":true,\"value\":false}",
+      lines[2]);
+  EXPECT_EQ(
+      "{\"event\":\"state\",\"form\":\"frmMain\",\"control\":\"cboKind\",\"index\":null,"
+      "\"text\":\"\",\"enabled\":true,\"visible\":true,\"ListIndex\":-1,"
+      "\"items\":[\"Long\",\"String\"]}",
+      lines[3]);
+}
+
 TEST_F(ScriptRunner, WhatAPersonCouldNotUseIsRefusedAndTheScriptGoesOn) {
   EXPECT_EQ(0, Run("frmMain.cmdOff.Click\n"
                    "frmMain.cmdHidden.Click\n"

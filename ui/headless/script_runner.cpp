@@ -179,12 +179,8 @@ Json ControlState(const Control& c) {
       j.Set("text", static_cast<const TextBox&>(c).Text());
       break;
     case ControlKind::CheckBox:
-      j.Set("caption", c.Caption());
-      j.Set("value", static_cast<const CheckBox&>(c).Value());
-      break;
     case ControlKind::OptionButton:
       j.Set("caption", c.Caption());
-      j.Set("value", static_cast<const OptionButton&>(c).Value());
       break;
     case ControlKind::ComboBox: {
       const auto& cb = static_cast<const ComboBox&>(c);
@@ -196,6 +192,10 @@ Json ControlState(const Control& c) {
   }
   j.Set("enabled", c.Enabled());
   j.Set("visible", c.Visible());
+  if (c.Kind() == ControlKind::CheckBox) j.Set("value", static_cast<const CheckBox&>(c).Value());
+  if (c.Kind() == ControlKind::OptionButton) {
+    j.Set("value", static_cast<const OptionButton&>(c).Value());
+  }
   if (c.Kind() == ControlKind::Menu) j.Set("checked", static_cast<const Menu&>(c).Checked());
   if (c.Kind() == ControlKind::ComboBox) {
     const auto& cb = static_cast<const ComboBox&>(c);
