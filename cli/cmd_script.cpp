@@ -6,6 +6,7 @@
 #include <fstream>
 #include <functional>
 #include <memory>
+#include <string_view>
 
 #include "cli/commands.h"
 #include "document/state.h"
@@ -29,6 +30,36 @@ std::string VersionText() {
   std::string v(PrgHdr.Version, sizeof PrgHdr.Version);
   const auto end = v.find_first_of(std::string("\0 ", 2));
   return end == std::string::npos ? v : v.substr(0, end);
+}
+
+// Every form of the program, shown or not.
+// clang-format off
+constexpr std::string_view kProgramForms[] = {
+    "frmAbout", "frmAddRec", "frmAssign", "frmAssignPa",
+    "frmCTBusCon", "frmCalculate", "frmCallOut", "frmCheckFile",
+    "frmCheckPath", "frmCondition", "frmConnectTbl", "frmConvert",
+    "frmDefDBTbl", "frmDefPath", "frmDefVar", "frmDelay",
+    "frmDeleteFile", "frmDeleteRec", "frmDialNo", "frmDisconnectTbl",
+    "frmEdit", "frmEmptyTbl", "frmFunc", "frmGetChNo",
+    "frmGetDate", "frmGetDayOfWeek", "frmGetFirstRec", "frmGetKey",
+    "frmGetLastRec", "frmGetNextRec", "frmGetNoRec", "frmGetPrevRec",
+    "frmGetRecNo", "frmGetTime", "frmGosub", "frmGoto",
+    "frmGotoFunc", "frmGotoLabel", "frmGotoPath", "frmGotoVar",
+    "frmInStr", "frmInsertRec", "frmLabel", "frmLeftStr",
+    "frmLenStr", "frmLineNo", "frmListen", "frmOnOffHook",
+    "frmPrototype", "frmRSwitch", "frmRandom", "frmRecordSound",
+    "frmRecordingWave", "frmRemark", "frmReturn", "frmRightStr",
+    "frmRun", "frmSayFile", "frmSayNo", "frmSelectRec",
+    "frmSoundFileCounter", "frmTrimStr", "frmUpdateRec", "frmVarExp",
+    "frmVoice", "frmWaitForCall", "frmWaitForKey",
+};
+// clang-format on
+
+bool IsProgramForm(const std::string& name) {
+  for (std::string_view form : kProgramForms) {
+    if (form == name) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -77,6 +108,7 @@ ui::ScriptHooks EditorScriptHooks() {
     ui::platform().Show(**holder);
   };
   hooks.dump = [] { return EditorDump(); };
+  hooks.knownForm = IsProgramForm;
   hooks.stop = [holder] { holder->reset(); };
   return hooks;
 }

@@ -121,8 +121,12 @@ void FrmEdit::mnuFileItem_Click(int index) {
           ui::platform().MsgBox("Delete file: " + ApplFileName + " ?",
                                 ui::vbExclamation | ui::vbOKCancel, "Confirm delete");
       if (answer != ui::vbOK) return;
+      // Only a file is deleted; any failure (no such file, a folder of that name) is
+      // passed over without a word.
       std::error_code ignored;
-      std::filesystem::remove(ApplFileName, ignored);
+      if (!std::filesystem::is_directory(ApplFileName, ignored)) {
+        std::filesystem::remove(ApplFileName, ignored);
+      }
       ApplFileTitle = "Untitled";
       ApplFileName.clear();
       ResetEditor();

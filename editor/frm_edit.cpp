@@ -135,6 +135,7 @@ void FrmEdit::WireEvents() {
   mnuConvert.OnClick = [this] { mnuConvert_Click(); };
   lstEdit.OnDblClick = [this] { lstEdit_DblClick(); };
   lstEdit.OnKeyDown = [this](int& keyCode, int shift) { lstEdit_KeyDown(keyCode, shift); };
+  lstEdit.OnKeyPress = [this](int& keyAscii) { lstEdit_KeyPress(keyAscii); };
 }
 
 // ---- Start-up
@@ -377,6 +378,7 @@ void FrmEdit::lstEdit_DblClick() {
 void FrmEdit::lstEdit_KeyDown(int& keyCode, int) {
   switch (keyCode) {
     case ui::vbKeyReturn:
+      keyCode = 0;  // taken here: the Enter character does not follow
       mnuEditItem_Click(2);
       break;
     case ui::vbKeyInsert:
@@ -388,6 +390,13 @@ void FrmEdit::lstEdit_KeyDown(int& keyCode, int) {
     default:
       break;
   }
+}
+
+// Enter that reaches the list as a character, without its key going down first.
+void FrmEdit::lstEdit_KeyPress(int& keyAscii) {
+  if (keyAscii != 13) return;
+  keyAscii = 0;
+  mnuEditItem_Click(2);
 }
 
 }  // namespace kq

@@ -132,6 +132,7 @@ class FrmEdit : public ui::Form {
   // ---- The list's own paths, which do not look at the menus.
   void lstEdit_DblClick();
   void lstEdit_KeyDown(int& keyCode, int shift);
+  void lstEdit_KeyPress(int& keyAscii);
 
   // ---- The shell's procedures.
   // The prompts of the closing sequence; operation "Close", "Exit" or "Unload".

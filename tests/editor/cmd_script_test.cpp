@@ -72,6 +72,32 @@ TEST_F(CmdScript, TheStatusOfTheScriptIsTheStatusOfKqx) {
             kqx::RunKqx({"script", Write("d.kqs", "dump\n"), "--settings", settings}, out_, err_));
 }
 
+// A form of the program that is not shown refuses the line and the script goes on; a name
+// that is no form of the program at all is a wrong script, for an action and for show.
+TEST_F(CmdScript, AFormNotShownIsRefusedAndANameThatIsNoFormIsWrong) {
+  EXPECT_EQ(0, kqx::RunKqx({"script", Write("f.kqs",
+                                            "frmRemark.cmdOk.Click\n"
+                                            "show frmDefVar\n"
+                                            "show frmGotoLabel.cmdOk\n"
+                                            "frmAbout.Close\n")},
+                           out_, err_));
+  EXPECT_EQ(std::string::npos, out_.str().find("\"error\""));
+  EXPECT_NE(std::string::npos, out_.str().find("\"reason\":\"form frmRemark is not shown\""));
+  EXPECT_NE(std::string::npos, out_.str().find("{\"event\":\"state\",\"form\":\"frmDefVar\","
+                                               "\"visible\":false}"));
+  for (const std::string line :
+       {"frmRemarks.cmdOk.Click", "show frmNoSuch", "show frmEdt.lstEdit", "frmedit.Close"}) {
+    out_.str("");
+    EXPECT_EQ(3, kqx::RunKqx({"script", Write("g.kqs", "dump\n" + line + "\ndump\n")}, out_, err_))
+        << line;
+    const std::string form = line.substr(line.rfind(' ') + 1, line.find('.') - line.rfind(' ') - 1);
+    EXPECT_NE(std::string::npos,
+              out_.str().find("{\"event\":\"error\",\"line\":2,\"message\":\"unknown form " + form +
+                              "\"}"))
+        << out_.str();
+  }
+}
+
 TEST_F(CmdScript, AWrongCommandLineIsRefused) {
   const std::string script = Write("e.kqs", "dump\n");
   const std::vector<std::vector<std::string>> wrong = {

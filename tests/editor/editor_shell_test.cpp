@@ -1,6 +1,7 @@
 // The main window: start-up settings and geometry, the speech formats, the menus of the
 // three document states, the closing prompts, the recent files and the list's own keys.
 #include <filesystem>
+#include <fstream>
 
 #include "dialogs/frm_func.h"
 #include "dialogs/frm_remark.h"
@@ -276,6 +277,33 @@ TEST_F(EditorTest, FileDeleteAsksOnceAndGoesBackToNoDocument) {
   std::filesystem::remove_all(dir);
 }
 
+// Delete removes the document's file, as a file; a folder that stands under that name is not
+// the document and stays, and the editor goes back to no document either way.
+TEST_F(EditorTest, FileDeleteRemovesTheFileButNeverAFolder) {
+  const auto dir = std::filesystem::temp_directory_path() / "kq-shell-delete-kinds";
+  std::filesystem::remove_all(dir);
+  std::filesystem::create_directories(dir);
+  platform_.SetUserDirectory(dir.string());
+  FrmEdit& f = Start();
+  const auto file = dir / "temp.kqx";
+
+  f.mnuFileItem[0].UserClick();
+  std::ofstream(file) << "x";
+  platform_.QueueAnswer(ui::vbOK);
+  f.mnuFileItem[7].UserClick();
+  EXPECT_FALSE(std::filesystem::exists(file));
+  EXPECT_EQ("Untitled", ApplFileTitle);
+
+  f.mnuFileItem[0].UserClick();
+  std::filesystem::create_directory(file);
+  platform_.QueueAnswer(ui::vbOK);
+  f.mnuFileItem[7].UserClick();
+  EXPECT_TRUE(std::filesystem::is_directory(file));
+  EXPECT_EQ("Untitled", ApplFileTitle);
+  EXPECT_EQ("", ApplFileName);
+  std::filesystem::remove_all(dir);
+}
+
 // ---- The closing prompts
 
 TEST_F(EditorTest, NoPromptWithoutLinesOrWithoutAFileName) {
@@ -427,6 +455,33 @@ TEST_F(EditorTest, TheInsertKeyWorksWhateverTheMenuSays) {
   EXPECT_EQ("0001\t\tRemark           \tsecond", f.lstEdit.List(1));
   EXPECT_EQ(1, f.lstEdit.ListIndex());
   EXPECT_EQ(2, PrgHdr.LineCount);
+}
+
+// Enter on the list modifies the line once, whether it arrives as the key going down or as
+// the character it types; the key going down is taken, so no character follows it.
+TEST_F(EditorTest, EnterOnTheListModifiesOnce) {
+  FrmEdit& f = Start();
+  f.mnuFileItem[0].UserClick();
+  QueueRemarkLine(platform_, "a");
+  f.mnuEditItem[0].UserClick();
+  auto modifyTo = [this](const std::string& text) {
+    platform_.QueueModal("frmRemark", [text](ui::Form& form) {
+      auto& d = static_cast<frmRemark&>(form);
+      d.txtRemark.SetText(text);
+      d.cmdOk.UserClick();
+    });
+  };
+  platform_.ClearEvents();
+  modifyTo("typed");
+  f.UserKey(f.lstEdit, 13);
+  EXPECT_EQ("0000\t\tRemark           \ttyped", f.lstEdit.List(0));
+  EXPECT_EQ(1, platform_.CountOf("show"));
+
+  modifyTo("pressed");
+  EXPECT_EQ(0, f.lstEdit.RaiseKeyDown(ui::vbKeyReturn, 0));
+  EXPECT_EQ("0000\t\tRemark           \tpressed", f.lstEdit.List(0));
+  EXPECT_EQ(2, platform_.CountOf("show"));
+  EXPECT_EQ(1, PrgHdr.LineCount);
 }
 
 TEST_F(EditorTest, ModifyTakesTheLineWithTheFocusAndKeepsTheCount) {

@@ -149,6 +149,30 @@ TEST_F(ScriptRunner, ListsCombosChecksAndOptions) {
   EXPECT_NE(std::string::npos, Lines().back().find("\"items\":[\"one  \",\"two\"]"));
 }
 
+// The fields of a control's state come in one order for every kind: caption, text, enabled,
+// visible, value, then those of lists.
+TEST_F(ScriptRunner, ShowOfAControlGivesItsFieldsInTheirOrder) {
+  EXPECT_EQ(0, Run("frmMain.chkFlag.Value 1\n"
+                   "show frmMain.chkFlag\n"
+                   "show frmMain.optA(1)\n"
+                   "show frmMain.cboKind\n"));
+  const auto lines = Lines();
+  ASSERT_EQ(4u, lines.size());
+  EXPECT_EQ(
+      "{\"event\":\"state\",\"form\":\"frmMain\",\"control\":\"chkFlag\",\"index\":null,"
+      "\"caption\":\"Flag\",\"enabled\":true,\"visible\":true,\"value\":1}",
+      lines[1]);
+  EXPECT_EQ(
+      "{\"event\":\"state\",\"form\":\"frmMain\",\"control\":\"optA\",\"index\":1,"
+      "\"caption\":\"B\",\"enabled\":true,\"visible\":true,\"value\":false}",
+      lines[2]);
+  EXPECT_EQ(
+      "{\"event\":\"state\",\"form\":\"frmMain\",\"control\":\"cboKind\",\"index\":null,"
+      "\"text\":\"\",\"enabled\":true,\"visible\":true,\"ListIndex\":-1,"
+      "\"items\":[\"Long\",\"String\"]}",
+      lines[3]);
+}
+
 TEST_F(ScriptRunner, WhatAPersonCouldNotUseIsRefusedAndTheScriptGoesOn) {
   EXPECT_EQ(0, Run("frmMain.cmdOff.Click\n"
                    "frmMain.cmdHidden.Click\n"
@@ -210,6 +234,22 @@ TEST_F(ScriptRunner, WrongLinesStopTheScriptWithTheirLineNumber) {
     EXPECT_EQ(3, errors[0].fields["line"].Int()) << line;
     EXPECT_EQ(message, errors[0].fields["message"].Str()) << line;
     EXPECT_EQ("", form_->txtName.Text()) << line;
+  }
+}
+
+// Words outside quotes are UTF-8 too: a wrong one comes back in the error as it was written,
+// and an escape of a letter outside ASCII names that one letter.
+TEST_F(ScriptRunner, WordsOutsideQuotesAreTurnedIntoTheCodePageToo) {
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"answer Peut-\xC3\xAAtre", "unknown answer Peut-\xC3\xAAtre"},
+      {"frmMain.txt\xC3\x9C.Click", "unknown control frmMain.txt\xC3\x9C"},
+      {"frmMain.txtName.Text \"a\\\xC3\xA9\"", "unknown escape \\\\\xC3\xA9"},
+  };
+  for (const auto& [line, message] : cases) {
+    out_.str("");
+    EXPECT_EQ(ui::kScriptWrong, Run(line + "\n")) << line;
+    EXPECT_EQ("{\"event\":\"error\",\"line\":1,\"message\":\"" + message + "\"}", Lines().back())
+        << line;
   }
 }
 

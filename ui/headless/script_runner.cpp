@@ -22,11 +22,11 @@ struct ScriptError {
 };
 
 struct Token {
-  std::string text;  // a quoted string is unescaped and in Windows-1252
+  std::string text;  // in Windows-1252; a quoted string is unescaped
   bool quoted = false;
 };
 
-// Splits a line into words and quoted strings.
+// Splits a line (already in Windows-1252) into words and quoted strings.
 std::optional<std::vector<Token>> Tokenize(std::string_view line, std::string& problem) {
   std::vector<Token> tokens;
   size_t i = 0;
@@ -78,7 +78,7 @@ std::optional<std::vector<Token>> Tokenize(std::string_view line, std::string& p
         problem = "string without its closing quote";
         return std::nullopt;
       }
-      t.text = Utf8ToCp1252(raw);
+      t.text = std::move(raw);
     } else {
       while (i < line.size() && line[i] != ' ' && line[i] != '\t' && line[i] != '\r') {
         if (line[i] == '"') {
@@ -179,12 +179,8 @@ Json ControlState(const Control& c) {
       j.Set("text", static_cast<const TextBox&>(c).Text());
       break;
     case ControlKind::CheckBox:
-      j.Set("caption", c.Caption());
-      j.Set("value", static_cast<const CheckBox&>(c).Value());
-      break;
     case ControlKind::OptionButton:
       j.Set("caption", c.Caption());
-      j.Set("value", static_cast<const OptionButton&>(c).Value());
       break;
     case ControlKind::ComboBox: {
       const auto& cb = static_cast<const ComboBox&>(c);
@@ -196,6 +192,10 @@ Json ControlState(const Control& c) {
   }
   j.Set("enabled", c.Enabled());
   j.Set("visible", c.Visible());
+  if (c.Kind() == ControlKind::CheckBox) j.Set("value", static_cast<const CheckBox&>(c).Value());
+  if (c.Kind() == ControlKind::OptionButton) {
+    j.Set("value", static_cast<const OptionButton&>(c).Value());
+  }
   if (c.Kind() == ControlKind::Menu) j.Set("checked", static_cast<const Menu&>(c).Checked());
   if (c.Kind() == ControlKind::ComboBox) {
     const auto& cb = static_cast<const ComboBox&>(c);
@@ -294,8 +294,11 @@ class Runner {
     std::string_view line(raw);
     while (!line.empty() && (line.front() == ' ' || line.front() == '\t')) line.remove_prefix(1);
     if (line.empty() || line.front() == '#' || line == "\r") return;
+    // The script is UTF-8; every word of it, quoted or not, is taken in the system's code
+    // page (quotes, blanks and backslashes are the same in both).
+    const std::string text = Utf8ToCp1252(std::string(line));
     std::string problem;
-    auto tokens = Tokenize(line, problem);
+    auto tokens = Tokenize(text, problem);
     if (!tokens) Wrong(problem);
     if (tokens->empty()) return;
     const std::vector<Token>& t = *tokens;
@@ -375,6 +378,7 @@ class Runner {
     Arity(t, 2);
     const auto target = ParseTarget(t[1].text);
     if (!target) Wrong("bad target " + t[1].text);
+    CheckKnownForm(target->form);
     Form* form = OpenForm(target->form);
     if (target->control.empty()) {
       if (form != nullptr) {
@@ -392,6 +396,10 @@ class Runner {
     Control* c = form->FindControl(target->control, target->index);
     if (c == nullptr) Wrong("unknown control " + t[1].text);
     p_.Record(ControlState(*c));
+  }
+
+  void CheckKnownForm(const std::string& name) {
+    if (hooks_.knownForm && !hooks_.knownForm(name)) Wrong("unknown form " + name);
   }
 
   // The form a person can act on: shown, and the one on top.
@@ -415,6 +423,7 @@ class Runner {
     const std::string action = head.substr(dot + 1);
     const auto target = ParseTarget(head.substr(0, dot));
     if (!target || action.empty()) Wrong("bad target " + head);
+    CheckKnownForm(target->form);
 
     if (target->control.empty()) {
       if (action != "Close") Wrong("a form takes only Close");

@@ -34,6 +34,9 @@ struct ScriptHooks {
   // control has no such action.
   std::function<bool(Control& control, const std::string& action, const std::string& argument)>
       extra;
+  // Whether a name is one of the program's forms; a line naming any other form is a wrong
+  // script. Unset: every name may be a form, and one not shown only refuses the line.
+  std::function<bool(const std::string& form)> knownForm;
   // Ends the program: its windows are dropped. Runs before the platform goes away.
   std::function<void()> stop;
 };
