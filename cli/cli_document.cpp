@@ -1,6 +1,7 @@
 #include "cli/cli_document.h"
 
 #include "document/file.h"
+#include "ui/platform/codepage.h"
 
 namespace kqx {
 
@@ -9,10 +10,14 @@ std::string TitleOf(const std::string& path) {
   return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
+std::string SystemText(const std::string& arg) {
+  return ui::Utf8ToCp1252(arg);
+}
+
 bool OpenDocument(CliContext& ctx, const std::string& path) {
   (void)ctx;
-  std::string title = TitleOf(path);
-  std::string name = path;
+  std::string name = SystemText(path);
+  std::string title = TitleOf(name);
   kq::OpenFile(title, name);
   return !name.empty();
 }

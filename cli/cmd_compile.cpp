@@ -40,8 +40,8 @@ int CmdCompile(CliContext& ctx) {
   ctx.platform.Record(std::move(result));
   if (!compiled) return kExitRefused;
 
-  std::string title = TitleOf(out);
-  std::string name = out;
+  std::string name = SystemText(out);
+  std::string title = TitleOf(name);
   int16_t count = static_cast<int16_t>(kq::EditList().ListCount());
   kq::SaveFile(title, name, true, 0, count - 1, count);
   // A save that did not finish leaves the document changed; its box has been printed.

@@ -11,8 +11,8 @@ namespace kqx {
 int CmdResave(CliContext& ctx) {
   if (!ExpectArgs(ctx, 2, "resave IN OUT")) return kExitRefused;
   if (!OpenDocument(ctx, ctx.args[0])) return kExitRefused;
-  std::string title = TitleOf(ctx.args[1]);
-  std::string name = ctx.args[1];
+  std::string name = SystemText(ctx.args[1]);
+  std::string title = TitleOf(name);
   int16_t count = static_cast<int16_t>(kq::EditList().ListCount());
   kq::ChangedFlag = true;
   kq::SaveFile(title, name, true, 0, count - 1, count);

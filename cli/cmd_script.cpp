@@ -12,6 +12,7 @@
 #include "document/state.h"
 #include "editor/frm_edit.h"
 #include "ui/headless/headless_platform.h"
+#include "ui/platform/codepage.h"
 #include "ui/model/menu.h"
 #include "ui/platform/platform.h"
 
@@ -166,9 +167,9 @@ int CmdScript(CliContext& ctx) {
   }
   ui::HeadlessPlatform& platform = ctx.platform;
   platform.SetScreen(screenWidth, screenHeight);
-  platform.SetDataDirectory(dataDir);
-  platform.SetUserDirectory(homeDir);
-  platform.SetTempDirectory(homeDir);
+  platform.SetDataDirectory(ui::Utf8ToCp1252(dataDir));
+  platform.SetUserDirectory(ui::Utf8ToCp1252(homeDir));
+  platform.SetTempDirectory(ui::Utf8ToCp1252(homeDir));
   platform.SettingsOf("KQEdit", "Settings").clear();
   if (!settingsFile.empty()) platform.LoadSettingsFile(settingsFile);
   const int status =

@@ -1,5 +1,7 @@
 #include "document/file_io.h"
 
+#include "ui/platform/codepage.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -55,7 +57,8 @@ int WriteAll(int fd, const uint8_t* data, size_t size) {
 
 }  // namespace
 
-int ReadWholeFile(const std::string& path, std::vector<uint8_t>& bytes, size_t limit) {
+int ReadWholeFile(const std::string& name, std::vector<uint8_t>& bytes, size_t limit) {
+  const std::string path = ui::Cp1252ToUtf8(name);  // file names on disk are UTF-8
   bytes.clear();
   if (g_readFault.times > 0) {
     --g_readFault.times;
@@ -95,7 +98,8 @@ int ReadWholeFile(const std::string& path, std::vector<uint8_t>& bytes, size_t l
   return 0;
 }
 
-int WriteWholeFile(const std::string& path, const uint8_t* data, size_t size) {
+int WriteWholeFile(const std::string& name, const uint8_t* data, size_t size) {
+  const std::string path = ui::Cp1252ToUtf8(name);  // file names on disk are UTF-8
   const std::string temp = path + ".kqx-save";
   struct stat old {};
   const bool existed = ::stat(path.c_str(), &old) == 0;

@@ -8,6 +8,8 @@
 #include <variant>
 #include <vector>
 
+#include "ui/platform/codepage.h"
+
 namespace ui {
 
 class Json {
@@ -42,9 +44,5 @@ class Json {
  private:
   std::variant<std::monostate, bool, int64_t, std::string, Array, Object> v_;
 };
-
-// Windows-1252 to UTF-8 and back (unmappable characters become '?').
-std::string Cp1252ToUtf8(const std::string& text);
-std::string Utf8ToCp1252(const std::string& text);
 
 }  // namespace ui
