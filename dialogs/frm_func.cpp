@@ -8,19 +8,12 @@
 
 namespace kq {
 
-frmFunc::frmFunc() : Form("frmFunc", "Function") {
+frmFunc::frmFunc() : PickListForm("frmFunc", "Function") {
   lstFunc.SetSorted(true);
   lstFunc.SetColumns(3);
-  lstFunc.SetWidth(6600);
-  lstFunc.OnDblClick = [this] { cmdOk_Click(); };
-  lstFunc.OnKeyPress = [this](int& k) { lstFunc_KeyPress(k); };
-  cmdOk.SetWidth(1200);
-  cmdCancel.SetWidth(1200);
-  cmdOk.OnClick = [this] { cmdOk_Click(); };
-  cmdCancel.OnClick = [this] { cmdCancel_Click(); };
-  Place(lstFunc, 0, 0, 1, 3);
-  Place(cmdOk, 1, 1);
-  Place(cmdCancel, 1, 2);
+  WireList(lstFunc, 6600);
+  WireButtons(cmdOk, cmdCancel);
+  PlaceList(lstFunc, 3, cmdOk, cmdCancel, 1);
   Move(0, 0, 7000, 4200);
 }
 
@@ -52,17 +45,6 @@ void frmFunc::cmdOk_Click() {
     ui::ProgramError("Selected function " + selected + " not found cmdOk_Click in frmFunc.");
   }
   Unload();
-}
-
-void frmFunc::cmdCancel_Click() {
-  Unload();
-}
-
-void frmFunc::lstFunc_KeyPress(int& keyAscii) {
-  if (keyAscii == 13) {
-    keyAscii = 0;
-    cmdOk_Click();
-  }
 }
 
 }  // namespace kq

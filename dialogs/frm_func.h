@@ -2,13 +2,11 @@
 // FuncNo, FuncName and FuncLine.
 #pragma once
 
-#include "ui/model/controls.h"
-#include "ui/model/form.h"
-#include "ui/model/list_controls.h"
+#include "dialogs/pick_list_form.h"
 
 namespace kq {
 
-class frmFunc : public ui::Form {
+class frmFunc : public PickListForm {
  public:
   frmFunc();
 
@@ -20,9 +18,7 @@ class frmFunc : public ui::Form {
   void Form_Load() override;
 
  private:
-  void cmdOk_Click();
-  void cmdCancel_Click();
-  void lstFunc_KeyPress(int& keyAscii);
+  void cmdOk_Click() override;
 };
 
 }  // namespace kq

@@ -9,24 +9,12 @@
 
 namespace kq {
 
-frmGotoFunc::frmGotoFunc() : Form("frmGotoFunc", "Goto Function") {
+frmGotoFunc::frmGotoFunc() : PickListForm("frmGotoFunc", "Goto Function") {
   lstFunc.SetSorted(true);
   lstFunc.SetColumns(2);
-  lstFunc.SetWidth(4400);
-  lstFunc.OnDblClick = [this] { cmdOk_Click(); };
-  lstFunc.OnKeyPress = [this](int& k) {
-    if (k == 13) {
-      k = 0;
-      cmdOk_Click();
-    }
-  };
-  cmdOk.OnClick = [this] { cmdOk_Click(); };
-  cmdCancel.OnClick = [this] { Unload(); };
-  cmdOk.SetWidth(1200);
-  cmdCancel.SetWidth(1200);
-  Place(lstFunc, 0, 0, 1, 2);
-  Place(cmdOk, 1, 0);
-  Place(cmdCancel, 1, 1);
+  WireList(lstFunc, 4400);
+  WireButtons(cmdOk, cmdCancel);
+  PlaceList(lstFunc, 2, cmdOk, cmdCancel, 0);
   Move(0, 0, 4800, 3600);
 }
 

@@ -2,13 +2,11 @@
 // chosen is selected, and it stays the key of Next Function.
 #pragma once
 
-#include "ui/model/controls.h"
-#include "ui/model/form.h"
-#include "ui/model/list_controls.h"
+#include "dialogs/pick_list_form.h"
 
 namespace kq {
 
-class frmGotoFunc : public ui::Form {
+class frmGotoFunc : public PickListForm {
  public:
   frmGotoFunc();
 
@@ -20,7 +18,7 @@ class frmGotoFunc : public ui::Form {
   void Form_Load() override;
 
  private:
-  void cmdOk_Click();
+  void cmdOk_Click() override;
 };
 
 }  // namespace kq

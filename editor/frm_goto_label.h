@@ -2,13 +2,11 @@
 // the key of Next Label Parameter.
 #pragma once
 
-#include "ui/model/controls.h"
-#include "ui/model/form.h"
-#include "ui/model/list_controls.h"
+#include "dialogs/pick_list_form.h"
 
 namespace kq {
 
-class frmGotoLabel : public ui::Form {
+class frmGotoLabel : public PickListForm {
  public:
   frmGotoLabel();
 
@@ -20,7 +18,7 @@ class frmGotoLabel : public ui::Form {
   void Form_Load() override;
 
  private:
-  void cmdOk_Click();
+  void cmdOk_Click() override;
 };
 
 }  // namespace kq

@@ -2,13 +2,11 @@
 // chosen.
 #pragma once
 
-#include "ui/model/controls.h"
-#include "ui/model/form.h"
-#include "ui/model/list_controls.h"
+#include "dialogs/pick_list_form.h"
 
 namespace kq {
 
-class frmLabel : public ui::Form {
+class frmLabel : public PickListForm {
  public:
   frmLabel();
 
@@ -20,7 +18,7 @@ class frmLabel : public ui::Form {
   void Form_Load() override;
 
  private:
-  void cmdOk_Click();
+  void cmdOk_Click() override;
 };
 
 // Fills the list with the labels of all lines that have one; false (after the box "Can't
