@@ -8,6 +8,11 @@
 
 namespace kq {
 
+bool PickerOffers(int funcNo) {
+  if (FieldEmpty(View(FuncNames[funcNo]))) return false;
+  return ShowAllFunctions || (funcNo != 54 && funcNo != 55);
+}
+
 frmFunc::frmFunc() : PickListForm("frmFunc", "Function") {
   lstFunc.SetSorted(true);
   lstFunc.SetColumns(3);
@@ -21,10 +26,7 @@ void frmFunc::Form_Load() {
   CenterForm(*this);
   FuncPick = false;
   for (int n = 0; n < kFuncCount; ++n) {
-    if (FieldEmpty(View(FuncNames[n]))) continue;
-    // The spare functions show only when all functions are asked for.
-    if (!ShowAllFunctions && (n == 54 || n == 55)) continue;
-    lstFunc.AddItem(RTrimZ(View(FuncNames[n])));
+    if (PickerOffers(n)) lstFunc.AddItem(RTrimZ(View(FuncNames[n])));
   }
   lstFunc.SetListIndex(0);
 }

@@ -6,6 +6,10 @@
 
 namespace kq {
 
+// True for a function that the pickers offer: a named slot, and the spare functions 54
+// and 55 only while all functions are asked for.
+bool PickerOffers(int funcNo);
+
 class frmFunc : public PickListForm {
  public:
   frmFunc();

@@ -1,5 +1,6 @@
 #include "editor/frm_goto_func.h"
 
+#include "dialogs/frm_func.h"
 #include "dialogs/services.h"
 #include "document/catalogue.h"
 #include "document/state.h"
@@ -28,9 +29,7 @@ void frmGotoFunc::Form_Load() {
     if (f >= 0 && f < kFuncCount) used[f] = true;
   }
   for (int n = 0; n < kFuncCount; ++n) {
-    if (FieldEmpty(View(FuncNames[n])) || !used[n]) continue;
-    if (!ShowAllFunctions && (n == 54 || n == 55)) continue;
-    lstFunc.AddItem(Text(FuncNames[n]));
+    if (used[n] && PickerOffers(n)) lstFunc.AddItem(Text(FuncNames[n]));
   }
   lstFunc.SetListIndex(0);
 }

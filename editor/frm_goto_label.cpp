@@ -9,18 +9,7 @@
 
 namespace kq {
 
-frmGotoLabel::frmGotoLabel() : PickListForm("frmGotoLabel", "Goto Label Parm.") {
-  lstLabel.SetSorted(true);
-  WireList(lstLabel, 3000);
-  WireButtons(cmdOk, cmdCancel);
-  PlaceList(lstLabel, 2, cmdOk, cmdCancel, 0);
-  Move(0, 0, 3400, 3600);
-}
-
-void frmGotoLabel::Form_Load() {
-  CenterForm(*this);
-  if (!FillLabelList(lstLabel)) Unload();
-}
+frmGotoLabel::frmGotoLabel() : LabelListForm("frmGotoLabel", "Goto Label Parm.") {}
 
 void frmGotoLabel::cmdOk_Click() {
   const std::string name = RTrim(lstLabel.List(lstLabel.ListIndex()));

@@ -2,20 +2,13 @@
 // the key of Next Label Parameter.
 #pragma once
 
-#include "dialogs/pick_list_form.h"
+#include "editor/frm_label.h"
 
 namespace kq {
 
-class frmGotoLabel : public PickListForm {
+class frmGotoLabel : public LabelListForm {
  public:
   frmGotoLabel();
-
-  ui::ListBox lstLabel{*this, "lstLabel"};
-  ui::CommandButton cmdOk{*this, "cmdOk", "&Ok"};
-  ui::CommandButton cmdCancel{*this, "cmdCancel", "&Cancel"};
-
- protected:
-  void Form_Load() override;
 
  private:
   void cmdOk_Click() override;

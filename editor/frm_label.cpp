@@ -23,7 +23,8 @@ bool FillLabelList(ui::ListBox& list) {
   return true;
 }
 
-frmLabel::frmLabel() : PickListForm("frmLabel", "Goto Label") {
+LabelListForm::LabelListForm(std::string name, std::string caption)
+    : PickListForm(std::move(name), std::move(caption)) {
   lstLabel.SetSorted(true);
   WireList(lstLabel, 3000);
   WireButtons(cmdOk, cmdCancel);
@@ -33,10 +34,12 @@ frmLabel::frmLabel() : PickListForm("frmLabel", "Goto Label") {
 
 // The list is filled when the dialog becomes active, so that it always shows the labels
 // of the program as it stands.
-void frmLabel::Form_Load() {
+void LabelListForm::Form_Load() {
   CenterForm(*this);
   if (!FillLabelList(lstLabel)) Unload();
 }
+
+frmLabel::frmLabel() : LabelListForm("frmLabel", "Goto Label") {}
 
 void frmLabel::cmdOk_Click() {
   const std::string wanted = lstLabel.List(lstLabel.ListIndex()) + '\0';

@@ -6,9 +6,12 @@
 
 namespace kq {
 
-class frmLabel : public PickListForm {
+// The labels of the program in a sorted list with Ok and Cancel, filled at load (the dialog
+// closes at once, after its message, when no line has a label). The two label dialogs
+// differ only in what Ok does with the label chosen.
+class LabelListForm : public PickListForm {
  public:
-  frmLabel();
+  LabelListForm(std::string name, std::string caption);
 
   ui::ListBox lstLabel{*this, "lstLabel"};
   ui::CommandButton cmdOk{*this, "cmdOk", "&Ok"};
@@ -16,6 +19,11 @@ class frmLabel : public PickListForm {
 
  protected:
   void Form_Load() override;
+};
+
+class frmLabel : public LabelListForm {
+ public:
+  frmLabel();
 
  private:
   void cmdOk_Click() override;
