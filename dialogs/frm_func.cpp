@@ -13,14 +13,18 @@ bool PickerOffers(int funcNo) {
   return ShowAllFunctions || (funcNo != 54 && funcNo != 55);
 }
 
-frmFunc::frmFunc() : PickListForm("frmFunc", "Function") {
+FuncListForm::FuncListForm(std::string name, std::string caption, int columns, int listWidth,
+                           int width, int height)
+    : PickListForm(std::move(name), std::move(caption)) {
   lstFunc.SetSorted(true);
-  lstFunc.SetColumns(3);
-  WireList(lstFunc, 6600);
+  lstFunc.SetColumns(columns);
+  WireList(lstFunc, listWidth);
   WireButtons(cmdOk, cmdCancel);
-  PlaceList(lstFunc, 3, cmdOk, cmdCancel, 1);
-  Move(0, 0, 7000, 4200);
+  PlaceList(lstFunc, columns, cmdOk, cmdCancel, columns - 2);
+  Move(0, 0, width, height);
 }
+
+frmFunc::frmFunc() : FuncListForm("frmFunc", "Function", 3, 6600, 7000, 4200) {}
 
 void frmFunc::Form_Load() {
   CenterForm(*this);

@@ -1,6 +1,5 @@
 #include "editor/frm_goto_func.h"
 
-#include "dialogs/frm_func.h"
 #include "dialogs/services.h"
 #include "document/catalogue.h"
 #include "document/state.h"
@@ -10,14 +9,7 @@
 
 namespace kq {
 
-frmGotoFunc::frmGotoFunc() : PickListForm("frmGotoFunc", "Goto Function") {
-  lstFunc.SetSorted(true);
-  lstFunc.SetColumns(2);
-  WireList(lstFunc, 4400);
-  WireButtons(cmdOk, cmdCancel);
-  PlaceList(lstFunc, 2, cmdOk, cmdCancel, 0);
-  Move(0, 0, 4800, 3600);
-}
+frmGotoFunc::frmGotoFunc() : FuncListForm("frmGotoFunc", "Goto Function", 2, 4400, 4800, 3600) {}
 
 void frmGotoFunc::Form_Load() {
   CenterForm(*this);

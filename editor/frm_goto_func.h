@@ -2,17 +2,13 @@
 // chosen is selected, and it stays the key of Next Function.
 #pragma once
 
-#include "dialogs/pick_list_form.h"
+#include "dialogs/frm_func.h"
 
 namespace kq {
 
-class frmGotoFunc : public PickListForm {
+class frmGotoFunc : public FuncListForm {
  public:
   frmGotoFunc();
-
-  ui::ListBox lstFunc{*this, "lstFunc"};
-  ui::CommandButton cmdOk{*this, "cmdOk", "&Ok"};
-  ui::CommandButton cmdCancel{*this, "cmdCancel", "&Cancel"};
 
  protected:
   void Form_Load() override;
