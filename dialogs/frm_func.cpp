@@ -8,30 +8,29 @@
 
 namespace kq {
 
-frmFunc::frmFunc() : Form("frmFunc", "Function") {
-  lstFunc.SetSorted(true);
-  lstFunc.SetColumns(3);
-  lstFunc.SetWidth(6600);
-  lstFunc.OnDblClick = [this] { cmdOk_Click(); };
-  lstFunc.OnKeyPress = [this](int& k) { lstFunc_KeyPress(k); };
-  cmdOk.SetWidth(1200);
-  cmdCancel.SetWidth(1200);
-  cmdOk.OnClick = [this] { cmdOk_Click(); };
-  cmdCancel.OnClick = [this] { cmdCancel_Click(); };
-  Place(lstFunc, 0, 0, 1, 3);
-  Place(cmdOk, 1, 1);
-  Place(cmdCancel, 1, 2);
-  Move(0, 0, 7000, 4200);
+bool PickerOffers(int funcNo) {
+  if (FieldEmpty(View(FuncNames[funcNo]))) return false;
+  return ShowAllFunctions || (funcNo != 54 && funcNo != 55);
 }
+
+FuncListForm::FuncListForm(std::string name, std::string caption, int columns, int listWidth,
+                           int width, int height)
+    : PickListForm(std::move(name), std::move(caption)) {
+  lstFunc.SetSorted(true);
+  lstFunc.SetColumns(columns);
+  WireList(lstFunc, listWidth);
+  WireButtons(cmdOk, cmdCancel);
+  PlaceList(lstFunc, columns, cmdOk, cmdCancel, columns - 2);
+  Move(0, 0, width, height);
+}
+
+frmFunc::frmFunc() : FuncListForm("frmFunc", "Function", 3, 6600, 7000, 4200) {}
 
 void frmFunc::Form_Load() {
   CenterForm(*this);
   FuncPick = false;
   for (int n = 0; n < kFuncCount; ++n) {
-    if (FieldEmpty(View(FuncNames[n]))) continue;
-    // The spare functions show only when all functions are asked for.
-    if (!ShowAllFunctions && (n == 54 || n == 55)) continue;
-    lstFunc.AddItem(RTrimZ(View(FuncNames[n])));
+    if (PickerOffers(n)) lstFunc.AddItem(RTrimZ(View(FuncNames[n])));
   }
   lstFunc.SetListIndex(0);
 }
@@ -52,17 +51,6 @@ void frmFunc::cmdOk_Click() {
     ui::ProgramError("Selected function " + selected + " not found cmdOk_Click in frmFunc.");
   }
   Unload();
-}
-
-void frmFunc::cmdCancel_Click() {
-  Unload();
-}
-
-void frmFunc::lstFunc_KeyPress(int& keyAscii) {
-  if (keyAscii == 13) {
-    keyAscii = 0;
-    cmdOk_Click();
-  }
 }
 
 }  // namespace kq

@@ -9,26 +9,7 @@
 
 namespace kq {
 
-frmGotoFunc::frmGotoFunc() : Form("frmGotoFunc", "Goto Function") {
-  lstFunc.SetSorted(true);
-  lstFunc.SetColumns(2);
-  lstFunc.SetWidth(4400);
-  lstFunc.OnDblClick = [this] { cmdOk_Click(); };
-  lstFunc.OnKeyPress = [this](int& k) {
-    if (k == 13) {
-      k = 0;
-      cmdOk_Click();
-    }
-  };
-  cmdOk.OnClick = [this] { cmdOk_Click(); };
-  cmdCancel.OnClick = [this] { Unload(); };
-  cmdOk.SetWidth(1200);
-  cmdCancel.SetWidth(1200);
-  Place(lstFunc, 0, 0, 1, 2);
-  Place(cmdOk, 1, 0);
-  Place(cmdCancel, 1, 1);
-  Move(0, 0, 4800, 3600);
-}
+frmGotoFunc::frmGotoFunc() : FuncListForm("frmGotoFunc", "Goto Function", 2, 4400, 4800, 3600) {}
 
 void frmGotoFunc::Form_Load() {
   CenterForm(*this);
@@ -40,9 +21,7 @@ void frmGotoFunc::Form_Load() {
     if (f >= 0 && f < kFuncCount) used[f] = true;
   }
   for (int n = 0; n < kFuncCount; ++n) {
-    if (FieldEmpty(View(FuncNames[n])) || !used[n]) continue;
-    if (!ShowAllFunctions && (n == 54 || n == 55)) continue;
-    lstFunc.AddItem(Text(FuncNames[n]));
+    if (used[n] && PickerOffers(n)) lstFunc.AddItem(Text(FuncNames[n]));
   }
   lstFunc.SetListIndex(0);
 }

@@ -2,25 +2,19 @@
 // chosen is selected, and it stays the key of Next Function.
 #pragma once
 
-#include "ui/model/controls.h"
-#include "ui/model/form.h"
-#include "ui/model/list_controls.h"
+#include "dialogs/frm_func.h"
 
 namespace kq {
 
-class frmGotoFunc : public ui::Form {
+class frmGotoFunc : public FuncListForm {
  public:
   frmGotoFunc();
-
-  ui::ListBox lstFunc{*this, "lstFunc"};
-  ui::CommandButton cmdOk{*this, "cmdOk", "&Ok"};
-  ui::CommandButton cmdCancel{*this, "cmdCancel", "&Cancel"};
 
  protected:
   void Form_Load() override;
 
  private:
-  void cmdOk_Click();
+  void cmdOk_Click() override;
 };
 
 }  // namespace kq

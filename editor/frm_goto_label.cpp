@@ -9,30 +9,7 @@
 
 namespace kq {
 
-frmGotoLabel::frmGotoLabel() : Form("frmGotoLabel", "Goto Label Parm.") {
-  lstLabel.SetSorted(true);
-  lstLabel.SetWidth(3000);
-  lstLabel.OnDblClick = [this] { cmdOk_Click(); };
-  lstLabel.OnKeyPress = [this](int& k) {
-    if (k == 13) {
-      k = 0;
-      cmdOk_Click();
-    }
-  };
-  cmdOk.OnClick = [this] { cmdOk_Click(); };
-  cmdCancel.OnClick = [this] { Unload(); };
-  cmdOk.SetWidth(1200);
-  cmdCancel.SetWidth(1200);
-  Place(lstLabel, 0, 0, 1, 2);
-  Place(cmdOk, 1, 0);
-  Place(cmdCancel, 1, 1);
-  Move(0, 0, 3400, 3600);
-}
-
-void frmGotoLabel::Form_Load() {
-  CenterForm(*this);
-  if (!FillLabelList(lstLabel)) Unload();
-}
+frmGotoLabel::frmGotoLabel() : LabelListForm("frmGotoLabel", "Goto Label Parm.") {}
 
 void frmGotoLabel::cmdOk_Click() {
   const std::string name = RTrim(lstLabel.List(lstLabel.ListIndex()));

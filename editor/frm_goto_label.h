@@ -2,25 +2,16 @@
 // the key of Next Label Parameter.
 #pragma once
 
-#include "ui/model/controls.h"
-#include "ui/model/form.h"
-#include "ui/model/list_controls.h"
+#include "editor/frm_label.h"
 
 namespace kq {
 
-class frmGotoLabel : public ui::Form {
+class frmGotoLabel : public LabelListForm {
  public:
   frmGotoLabel();
 
-  ui::ListBox lstLabel{*this, "lstLabel"};
-  ui::CommandButton cmdOk{*this, "cmdOk", "&Ok"};
-  ui::CommandButton cmdCancel{*this, "cmdCancel", "&Cancel"};
-
- protected:
-  void Form_Load() override;
-
  private:
-  void cmdOk_Click();
+  void cmdOk_Click() override;
 };
 
 }  // namespace kq

@@ -8,23 +8,13 @@
 
 namespace kq {
 
-frmGotoPath::frmGotoPath() : Form("frmGotoPath", "Goto Path Parameter") {
+frmGotoPath::frmGotoPath() : PickListForm("frmGotoPath", "Goto Path Parameter") {
   cboPath.SetStyle(ui::ComboBox::Style::DropdownList);
   cboPath.SetWidth(2400);
   cboPath.OnClick = [this] { cboPath_Click(); };
   lstVariable.SetSorted(true);
-  lstVariable.SetWidth(3000);
-  lstVariable.OnDblClick = [this] { cmdOk_Click(); };
-  lstVariable.OnKeyPress = [this](int& k) {
-    if (k == 13) {
-      k = 0;
-      cmdOk_Click();
-    }
-  };
-  cmdOk.OnClick = [this] { cmdOk_Click(); };
-  cmdCancel.OnClick = [this] { Unload(); };
-  cmdOk.SetWidth(1200);
-  cmdCancel.SetWidth(1200);
+  WireList(lstVariable, 3000);
+  WireButtons(cmdOk, cmdCancel);
   Place(lblSelectPath, 0, 0);
   Place(cboPath, 0, 1);
   Place(lstVariable, 1, 0, 1, 2);

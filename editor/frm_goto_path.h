@@ -2,13 +2,11 @@
 // and name; it stays the key of Next Path Parameter.
 #pragma once
 
-#include "ui/model/controls.h"
-#include "ui/model/form.h"
-#include "ui/model/list_controls.h"
+#include "dialogs/pick_list_form.h"
 
 namespace kq {
 
-class frmGotoPath : public ui::Form {
+class frmGotoPath : public PickListForm {
  public:
   frmGotoPath();
 
@@ -23,7 +21,7 @@ class frmGotoPath : public ui::Form {
 
  private:
   void cboPath_Click();
-  void cmdOk_Click();
+  void cmdOk_Click() override;
 };
 
 }  // namespace kq

@@ -8,22 +8,12 @@
 
 namespace kq {
 
-frmGotoVar::frmGotoVar() : Form("frmGotoVar", "Goto Variable Parameter") {
+frmGotoVar::frmGotoVar() : PickListForm("frmGotoVar", "Goto Variable Parameter") {
   lstVariable.SetSorted(true);
-  lstVariable.SetWidth(3000);
   lstVariable.OnClick = [this] { lstVariable_Click(); };
-  lstVariable.OnDblClick = [this] { cmdOk_Click(); };
-  lstVariable.OnKeyPress = [this](int& k) {
-    if (k == 13) {
-      k = 0;
-      cmdOk_Click();
-    }
-  };
+  WireList(lstVariable, 3000);
   lstDataType.SetVisible(false);
-  cmdOk.OnClick = [this] { cmdOk_Click(); };
-  cmdCancel.OnClick = [this] { Unload(); };
-  cmdOk.SetWidth(1200);
-  cmdCancel.SetWidth(1200);
+  WireButtons(cmdOk, cmdCancel);
   for (int i = 0; i < 3; ++i) fraDataType.Place(optDataType[i], i, 0);
   Place(lstVariable, 0, 0, 3, 1);
   Place(fraDataType, 0, 1, 3, 1);

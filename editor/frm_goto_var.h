@@ -2,13 +2,11 @@
 // of Next Variable Parameter. The option buttons show the type of the variable chosen.
 #pragma once
 
-#include "ui/model/controls.h"
-#include "ui/model/form.h"
-#include "ui/model/list_controls.h"
+#include "dialogs/pick_list_form.h"
 
 namespace kq {
 
-class frmGotoVar : public ui::Form {
+class frmGotoVar : public PickListForm {
  public:
   frmGotoVar();
 
@@ -25,7 +23,7 @@ class frmGotoVar : public ui::Form {
   void Form_Load() override;
 
  private:
-  void cmdOk_Click();
+  void cmdOk_Click() override;
   void lstVariable_Click();
 };
 

@@ -23,32 +23,23 @@ bool FillLabelList(ui::ListBox& list) {
   return true;
 }
 
-frmLabel::frmLabel() : Form("frmLabel", "Goto Label") {
+LabelListForm::LabelListForm(std::string name, std::string caption)
+    : PickListForm(std::move(name), std::move(caption)) {
   lstLabel.SetSorted(true);
-  lstLabel.SetWidth(3000);
-  lstLabel.OnDblClick = [this] { cmdOk_Click(); };
-  lstLabel.OnKeyPress = [this](int& k) {
-    if (k == 13) {
-      k = 0;
-      cmdOk_Click();
-    }
-  };
-  cmdOk.OnClick = [this] { cmdOk_Click(); };
-  cmdCancel.OnClick = [this] { Unload(); };
-  cmdOk.SetWidth(1200);
-  cmdCancel.SetWidth(1200);
-  Place(lstLabel, 0, 0, 1, 2);
-  Place(cmdOk, 1, 0);
-  Place(cmdCancel, 1, 1);
+  WireList(lstLabel, 3000);
+  WireButtons(cmdOk, cmdCancel);
+  PlaceList(lstLabel, 2, cmdOk, cmdCancel, 0);
   Move(0, 0, 3400, 3600);
 }
 
 // The list is filled when the dialog becomes active, so that it always shows the labels
 // of the program as it stands.
-void frmLabel::Form_Load() {
+void LabelListForm::Form_Load() {
   CenterForm(*this);
   if (!FillLabelList(lstLabel)) Unload();
 }
+
+frmLabel::frmLabel() : LabelListForm("frmLabel", "Goto Label") {}
 
 void frmLabel::cmdOk_Click() {
   const std::string wanted = lstLabel.List(lstLabel.ListIndex()) + '\0';

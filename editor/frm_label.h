@@ -2,15 +2,16 @@
 // chosen.
 #pragma once
 
-#include "ui/model/controls.h"
-#include "ui/model/form.h"
-#include "ui/model/list_controls.h"
+#include "dialogs/pick_list_form.h"
 
 namespace kq {
 
-class frmLabel : public ui::Form {
+// The labels of the program in a sorted list with Ok and Cancel, filled at load (the dialog
+// closes at once, after its message, when no line has a label). The two label dialogs
+// differ only in what Ok does with the label chosen.
+class LabelListForm : public PickListForm {
  public:
-  frmLabel();
+  LabelListForm(std::string name, std::string caption);
 
   ui::ListBox lstLabel{*this, "lstLabel"};
   ui::CommandButton cmdOk{*this, "cmdOk", "&Ok"};
@@ -18,9 +19,14 @@ class frmLabel : public ui::Form {
 
  protected:
   void Form_Load() override;
+};
+
+class frmLabel : public LabelListForm {
+ public:
+  frmLabel();
 
  private:
-  void cmdOk_Click();
+  void cmdOk_Click() override;
 };
 
 // Fills the list with the labels of all lines that have one; false (after the box "Can't

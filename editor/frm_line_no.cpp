@@ -9,13 +9,10 @@
 
 namespace kq {
 
-frmLineNo::frmLineNo() : Form("frmLineNo", "Goto Line Number") {
+frmLineNo::frmLineNo() : PickListForm("frmLineNo", "Goto Line Number") {
   txtLineNo.SetWidth(1200);
   txtLineNo.OnKeyPress = [this](int& k) { txtLineNo_KeyPress(k); };
-  cmdOk.OnClick = [this] { cmdOk_Click(); };
-  cmdCancel.OnClick = [this] { Unload(); };
-  cmdOk.SetWidth(1200);
-  cmdCancel.SetWidth(1200);
+  WireButtons(cmdOk, cmdCancel);
   Place(lblLineNo, 0, 0);
   Place(txtLineNo, 0, 1);
   Place(cmdOk, 1, 0);
@@ -28,11 +25,7 @@ void frmLineNo::Form_Load() {
 }
 
 void frmLineNo::txtLineNo_KeyPress(int& keyAscii) {
-  if (keyAscii == 13) {
-    keyAscii = 0;
-    cmdOk_Click();
-    return;
-  }
+  if (EnterActsAsOk(keyAscii)) return;
   LegalInput(txtLineNo, 3, keyAscii);
 }
 

@@ -1,12 +1,11 @@
 // Goto Line Number: selects the line of the number typed.
 #pragma once
 
-#include "ui/model/controls.h"
-#include "ui/model/form.h"
+#include "dialogs/pick_list_form.h"
 
 namespace kq {
 
-class frmLineNo : public ui::Form {
+class frmLineNo : public PickListForm {
  public:
   frmLineNo();
 
@@ -19,7 +18,7 @@ class frmLineNo : public ui::Form {
   void Form_Load() override;
 
  private:
-  void cmdOk_Click();
+  void cmdOk_Click() override;
   void txtLineNo_KeyPress(int& keyAscii);
 };
 

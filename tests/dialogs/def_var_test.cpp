@@ -122,6 +122,29 @@ TEST_F(DefVarTest, DuplicateNamesAreRefusedCaseCounts) {
   });
 }
 
+TEST_F(DefVarTest, LoadClickAndEnterInAnEmptyNameLeaveTheDocumentAlone) {
+  AddVariable("Count", kq::kVarLong);
+  AddVariable("Name", kq::kVarString);
+  kq::ChangedFlag = false;
+  Define([&](kq::frmDefVar& d) {
+    // The disabled Add takes no Enter: the name field swallows it without a beep.
+    d.UserKey(d.txtName, 13);
+    EXPECT_EQ(p.CountOf("msgbox"), 0);
+    EXPECT_EQ(p.CountOf("beep"), 0);
+    EXPECT_EQ(d.lstVariable.ListCount(), 2);
+    d.lstVariable.UserSelect(1);
+    EXPECT_EQ(Selected(d), 2);
+    EXPECT_TRUE(d.cmdModify.Enabled());
+    EXPECT_TRUE(d.cmdDelete.Enabled());
+    EXPECT_FALSE(kq::ChangedFlag);
+    EXPECT_EQ(kq::PrgHdr.CompiledFlag, -1);
+    d.cmdOk.UserClick();
+  });
+  EXPECT_FALSE(kq::ChangedFlag);
+  EXPECT_EQ(kq::PrgHdr.CompiledFlag, -1);
+  EXPECT_EQ(Table(), (std::vector<std::string>{"Count:0", "Name:2"}));
+}
+
 TEST_F(DefVarTest, TheFiveHundredthIsAcceptedTheNextRefused) {
   for (int i = 0; i < 499; ++i) AddVariable("V" + std::to_string(i), kq::kVarLong);
   Define([&](kq::frmDefVar& d) {

@@ -459,6 +459,44 @@ TEST_F(ConditionTest, ModifiedStringConditionWithOperatorBeyondItsListFallsBackT
   EXPECT_EQ(kq::WorkRecord.Condition.Operator, 0);
 }
 
+TEST_F(ConditionTest, RightSideKeysFollowTheTypeOfTheLeftVariable) {
+  Run<kq::frmCondition>(3, [&](kq::frmCondition& d) {
+    // Sum (Double) on the left: a decimal point is a legal key on the right.
+    d.cboVar[0].UserSelect(1);
+    EXPECT_EQ(Items(d.cboVar[1]), (std::vector<std::string>{"Count", "Sum"}));
+    EXPECT_EQ(Trimmed(d.cboVar[1]), "Sum");
+    d.cboVar[1].SetText("");
+    Type(d.cboVar[1], "-2.5.");
+    EXPECT_EQ(d.cboVar[1].Text(), "-2.5");
+    EXPECT_EQ(p.CountOf("beep"), 1);
+    // The left side is not filtered.
+    Type(d.cboVar[0], "x");
+    EXPECT_EQ(p.CountOf("beep"), 1);
+    Type(d.cboLabel[0], "Top");
+    d.cmdOk.UserClick();
+  });
+  ASSERT_TRUE(kq::FuncOk);
+  EXPECT_EQ(kq::FuncLine, "\t\t" + Name17("Condition") + "\tIF Sum = -2.5 THEN Top");
+  kq::VarRef expected;
+  expected.VarRefType = kq::kConstDouble;
+  kq::SetField(expected.VarRefName, "-2.5");
+  EXPECT_EQ(Bytes(kq::WorkRecord.Condition.Right), Bytes(expected));
+  EXPECT_EQ(Bytes(kq::WorkRecord.Condition.Left), Bytes(kq::PrgHdr.Variable[1]));
+}
+
+TEST_F(ConditionTest, AnEmptyLongConstantIsRefusedBeforeTheThenTarget) {
+  Run<kq::frmCondition>(3, [&](kq::frmCondition& d) {
+    d.cboVar[1].SetText("");
+    Type(d.cboLabel[0], "Top");
+    // An empty Long constant is refused before the THEN target is looked at.
+    d.cboLabel[0].SetText("");
+    ExpectRefused(d, "cboVar(1)");
+    Type(d.cboVar[1], "4");
+    ExpectRefused(d, "cboLabel(0)");
+  });
+  EXPECT_FALSE(kq::FuncOk);
+}
+
 TEST_F(FlowDialogTest, ConditionNeedsAVariableOfAnyKind) {
   PrepareNew(3);
   kq::GetFuncParm(3);
