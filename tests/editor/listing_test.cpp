@@ -3,6 +3,9 @@
 // and every label filled, one with flags off and labels empty.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -91,6 +94,20 @@ class ListingTest : public ::testing::Test, public DocFixture {
     std::vector<std::string> rows;
     WriteListing([&](const std::string& r) { rows.push_back(r); }, kNow);
     return rows;
+  }
+  // The whole text file, compared byte for byte with the listing kept under
+  // tests/editor/listings (rows closed by carriage return and line feed).
+  void ExpectFile(const std::string& name) {
+    const std::string path = std::string(KQ_LISTINGS_DIR) + "/" + name;
+    const std::string actual = ListingText(kNow);
+    if (std::getenv("KQ_UPDATE_GOLDEN") != nullptr) {
+      std::ofstream(path, std::ios::binary) << actual;
+    }
+    std::ifstream in(path, std::ios::binary);
+    ASSERT_TRUE(in) << path;
+    std::stringstream want;
+    want << in.rdbuf();
+    EXPECT_EQ(actual, want.str()) << path;
   }
   void ExpectRows(const std::vector<std::string>& expected) {
     const std::vector<std::string> rows = Rows();
@@ -414,6 +431,7 @@ TEST_F(ListingTest, EveryFunctionWithFlagsOnAndLabelsFilled) {
   }
   ASSERT_EQ(list().ListCount(), 52);  // every live function once
   ExpectRows(x);
+  ExpectFile("every_function_flags_on.txt");
 }
 
 TEST_F(ListingTest, FlagsOffAndLabelsEmptyWriteNoRows) {
@@ -466,6 +484,7 @@ TEST_F(ListingTest, FlagsOffAndLabelsEmptyWriteNoRows) {
             "To Stream     = 3", "To Timeslot   = 4"});
   }
   ExpectRows(x);
+  ExpectFile("flags_off_labels_empty.txt");
 }
 
 TEST_F(ListingTest, EmptyDeclarationsKeepTheirHeadings) {
