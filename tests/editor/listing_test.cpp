@@ -446,6 +446,12 @@ TEST_F(ListingTest, FlagsOffAndLabelsEmptyWriteNoRows) {
       {"Count = Count"});
   add(Rec(3).Var(0, kVarLong, "Count").Var(32, kConstLong, "1").Label(68, "Top").I32(100, -1),
       {"IF Count = 1 THEN", "Top -> -0001", "END IF"});
+  // Empty targets write no row, as every empty label outside Check Path, Check File and
+  // Delete File.
+  add(Rec(3).Var(0, kVarLong, "Count").Var(32, kConstLong, "2").I32(100, 4).I32(104, 5),
+      {"IF Count = 2 THEN", "END IF"});
+  add(Rec(9).LabelRef(0, "", 3).LabelRef(20, "", 4), {});
+  add(Rec(10).LabelRef(0, "", 3), {});
   add(Rec(5).Var(148, kConstLong, "123").I32(140, 0).I32(144, 0),
       {"123", "Wait for dial tone = No "});
   add(Rec(7).Var(0, kVarLong, "Count").I32(104, 5),
