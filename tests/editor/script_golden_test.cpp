@@ -1,7 +1,8 @@
 // The golden user stories: every tests/scripts/NAME.kqs runs in-process through the script
 // runner on the editor, and its JSON lines must equal NAME.expected. "$HOME" in a script
 // stands for a fresh folder of the run; the output names it the same way. A NAME.settings
-// file is the settings store at start; the store at the end follows the events. The date
+// file is the settings store at start; the store at the end follows the events. A NAME.kqx
+// file is copied into the folder of the run before it starts, for the script to open. The date
 // and time of a printed page header are the clock's: they read "####-##-## ##:##:##".
 #include <gtest/gtest.h>
 
@@ -66,6 +67,9 @@ TEST_P(ScriptGolden, EventsMatchExpected) {
     std::ofstream(settings, std::ios::binary)
         << ReplaceAll(ReadText(settingsSeed), "$HOME", homeText);
   }
+  fs::path documentSeed = script;
+  documentSeed.replace_extension(".kqx");
+  if (fs::exists(documentSeed)) fs::copy_file(documentSeed, home / documentSeed.filename());
 
   std::istringstream in(ReplaceAll(ReadText(script), "$HOME", homeText));
   std::ostringstream out;
