@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "document/catalogue.h"
 #include "document/state.h"
 #include "editor/listing.h"
 #include "tests/editor/doc_builder.h"
@@ -491,6 +492,22 @@ TEST_F(ListingTest, FlagsOffAndLabelsEmptyWriteNoRows) {
   }
   ExpectRows(x);
   ExpectFile("flags_off_labels_empty.txt");
+}
+
+// Every live function with every number, flag and selection 0 and every label and name
+// empty (a path type is chosen where the function has one).
+TEST_F(ListingTest, EveryFunctionWithFlagsOffAndLabelsEmpty) {
+  int count = 0;
+  for (int f = 0; f < kFuncCount; ++f) {
+    if (!IsLiveFunction(f)) continue;
+    Rec r(f);
+    if (f == 1 || f == 49 || f == 50 || f == 51) r.I32(0, kPathMessage);
+    if (f == 55) r.I32(480, kPathGeneral);
+    Add("", r);
+    ++count;
+  }
+  ASSERT_EQ(count, 52);
+  ExpectFile("every_function_flags_off.txt");
 }
 
 TEST_F(ListingTest, EmptyDeclarationsKeepTheirHeadings) {

@@ -69,7 +69,9 @@ TEST_P(ScriptGolden, EventsMatchExpected) {
   }
   fs::path documentSeed = script;
   documentSeed.replace_extension(".kqx");
-  if (fs::exists(documentSeed)) fs::copy_file(documentSeed, home / documentSeed.filename());
+  if (fs::exists(documentSeed)) {
+    std::ofstream(home / documentSeed.filename(), std::ios::binary) << ReadText(documentSeed);
+  }
 
   std::istringstream in(ReplaceAll(ReadText(script), "$HOME", homeText));
   std::ostringstream out;
