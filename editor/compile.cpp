@@ -410,7 +410,7 @@ bool DefinedVarMsgDB(const VariableIndex& vars, std::string_view table16, int co
 bool DefinedPathMsgVariable(int line, int32_t pathType, std::string_view name28) {
   if (pathType < kPathExport || pathType > kPathGeneral) {
     ui::ProgramError("Illegal path variable type '" + NulToBlank(RTrim(name28)) + "' with value " +
-                     Num(pathType) + " in Global DefinedPathMsgVariable.");
+                     Str(int64_t{pathType}) + " in Global DefinedPathMsgVariable.");
   }
   for (int row = 0; row < kPathRows; ++row) {
     const PathEntry& e = PrgHdr.Path[row][pathType - kPathExport];

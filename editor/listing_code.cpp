@@ -47,9 +47,11 @@ class LineRows {
   }
   std::string YesNo(int offset) const { return Name(YesNoNames, I(offset)); }
 
-  // The label row: caption, label, " -> ", its line; only for a label that is not empty.
-  void L(int offset, const std::string& caption) {
-    if (!Empty(offset, 16)) Row(caption + LabelName(offset) + " -> " + Line(offset + 16));
+  // The label row: caption, label, " -> ", its line (behind the name unless the label
+  // array keeps it elsewhere); only for a label that is not empty.
+  void L(int offset, const std::string& caption) { L(offset, caption, offset + 16); }
+  void L(int offset, const std::string& caption, int lineOffset) {
+    if (!Empty(offset, 16)) Row(caption + LabelName(offset) + " -> " + Line(lineOffset));
   }
   // A label of a label array with its line, or "CONTINUE" when it is empty.
   std::string TargetOrContinue(int nameOffset, int lineOffset) const {
@@ -112,10 +114,10 @@ void WriteParameters(LineRows& r, int f) {
       break;
     case 3:
       r.Row("IF " + r.V(0) + StringRelationalOpr(r.I(64)) + r.V(32) + " THEN");
-      r.Row(r.LabelName(68) + " -> " + r.Line(100));
+      r.L(68, "", 100);
       if (!r.Empty(84, 16)) {
         r.Row("ELSE");
-        r.Row(r.LabelName(84) + " -> " + r.Line(104));
+        r.L(84, "", 104);
       }
       r.Row("END IF");
       break;
@@ -150,11 +152,11 @@ void WriteParameters(LineRows& r, int f) {
       r.Row(r.V(4) + " = " + r.Name(TimeFormatNames, r.I(0)));
       break;
     case 9:
-      r.Row(r.LabelName(0) + " -> " + r.Line(16));
+      r.L(0, "");
       r.L(20, "Error label = ");
       break;
     case 10:
-      r.Row(r.LabelName(0) + " -> " + r.Line(16));
+      r.L(0, "");
       break;
     case 11:
       r.Row(r.N(32) + " <= " + r.V(0) + " <= " + r.N(36));

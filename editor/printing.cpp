@@ -21,9 +21,11 @@ class PagePrinter {
               int to)
       : rows_(fileRows), dateTime_(dateTime), from_(from), to_(to) {}
 
+  // One copy is one document on the printer, ended before the next copy starts.
   void PrintCopy() {
     int pageNo = 1;
     int lineCounter = 0;
+    anyPrinted_ = false;
     StartPage(pageNo);
     for (size_t i = 4; i < rows_.size(); ++i) {
       if (Printed(pageNo)) ui::platform().PrintRow(kMargin + rows_[i]);
@@ -34,13 +36,15 @@ class PagePrinter {
         StartPage(pageNo);
       }
     }
+    ui::platform().EndDoc();
   }
 
  private:
   bool Printed(int pageNo) const {
     return (from_ == 0 && to_ == 0) || (pageNo >= from_ && pageNo <= to_);
   }
-  // A new printer page (unless it is the first printed one), then the page header.
+  // A new printer page (unless it is the first printed one of the copy), then the page
+  // header.
   void StartPage(int pageNo) {
     if (!Printed(pageNo)) return;
     ui::Platform& p = ui::platform();
@@ -78,7 +82,6 @@ void PrintListingRows(const std::vector<std::string>& fileRows, const std::strin
                       int fromPage, int toPage, int copies) {
   PagePrinter printer(fileRows, dateTime, fromPage, toPage);
   for (int copy = 0; copy < copies; ++copy) printer.PrintCopy();
-  ui::platform().EndDoc();
 }
 
 void PrintCommand() {

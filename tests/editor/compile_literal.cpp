@@ -108,7 +108,7 @@ bool DefVarDB(std::string_view table, int column, const VarRef& v) {
 bool DefPath(int line, int32_t type, std::string_view name) {
   if (type < 65 || type > 69) {
     ui::ProgramError("Illegal path variable type '" + NulToBlank(RTrim(name)) + "' with value " +
-                     Num(type) + " in Global DefinedPathMsgVariable.");
+                     Str(int64_t{type}) + " in Global DefinedPathMsgVariable.");
   }
   bool found = false;
   for (int row = 0; row < 20; ++row) {

@@ -209,6 +209,12 @@ TEST_F(CompileTest, PathOfNoTypeEndsTheProgram) {
                                           "' with value -1 in Global DefinedPathMsgVariable.");
 }
 
+TEST_F(CompileTest, PathTypeAboveTheLettersEndsTheProgramWithTheNumberAsConverted) {
+  Add("", Rec(49).I32(0, 70).Text(4, 28, "P"));
+  EXPECT_EQ(ProgramErrorOf(&Compile), std::string("Illegal path variable type 'P ") +
+                                          "' with value  70 in Global DefinedPathMsgVariable.");
+}
+
 TEST_F(CompileTest, UndeclaredTableComesAfterVariablesAndPaths) {
   Add("", Rec(25).Text(0, 16, "Orders"));
   Add("", Rec(21).Text(0, 28, "NoPath").Var(28, kConstString, "x"));

@@ -3,9 +3,13 @@
 // and every label filled, one with flags off and labels empty.
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
 #include <string>
 #include <vector>
 
+#include "document/catalogue.h"
 #include "document/state.h"
 #include "editor/listing.h"
 #include "tests/editor/doc_builder.h"
@@ -91,6 +95,20 @@ class ListingTest : public ::testing::Test, public DocFixture {
     std::vector<std::string> rows;
     WriteListing([&](const std::string& r) { rows.push_back(r); }, kNow);
     return rows;
+  }
+  // The whole text file, compared byte for byte with the listing kept under
+  // tests/editor/listings (rows closed by carriage return and line feed).
+  void ExpectFile(const std::string& name) {
+    const std::string path = std::string(KQ_LISTINGS_DIR) + "/" + name;
+    const std::string actual = ListingText(kNow);
+    if (std::getenv("KQ_UPDATE_GOLDEN") != nullptr) {
+      std::ofstream(path, std::ios::binary) << actual;
+    }
+    std::ifstream in(path, std::ios::binary);
+    ASSERT_TRUE(in) << path;
+    std::stringstream want;
+    want << in.rdbuf();
+    EXPECT_EQ(actual, want.str()) << path;
   }
   void ExpectRows(const std::vector<std::string>& expected) {
     const std::vector<std::string> rows = Rows();
@@ -414,6 +432,7 @@ TEST_F(ListingTest, EveryFunctionWithFlagsOnAndLabelsFilled) {
   }
   ASSERT_EQ(list().ListCount(), 52);  // every live function once
   ExpectRows(x);
+  ExpectFile("every_function_flags_on.txt");
 }
 
 TEST_F(ListingTest, FlagsOffAndLabelsEmptyWriteNoRows) {
@@ -428,6 +447,12 @@ TEST_F(ListingTest, FlagsOffAndLabelsEmptyWriteNoRows) {
       {"Count = Count"});
   add(Rec(3).Var(0, kVarLong, "Count").Var(32, kConstLong, "1").Label(68, "Top").I32(100, -1),
       {"IF Count = 1 THEN", "Top -> -0001", "END IF"});
+  // Empty targets write no row, as every empty label outside Check Path, Check File and
+  // Delete File.
+  add(Rec(3).Var(0, kVarLong, "Count").Var(32, kConstLong, "2").I32(100, 4).I32(104, 5),
+      {"IF Count = 2 THEN", "END IF"});
+  add(Rec(9).LabelRef(0, "", 3).LabelRef(20, "", 4), {});
+  add(Rec(10).LabelRef(0, "", 3), {});
   add(Rec(5).Var(148, kConstLong, "123").I32(140, 0).I32(144, 0),
       {"123", "Wait for dial tone = No "});
   add(Rec(7).Var(0, kVarLong, "Count").I32(104, 5),
@@ -466,6 +491,23 @@ TEST_F(ListingTest, FlagsOffAndLabelsEmptyWriteNoRows) {
             "To Stream     = 3", "To Timeslot   = 4"});
   }
   ExpectRows(x);
+  ExpectFile("flags_off_labels_empty.txt");
+}
+
+// Every live function with every number, flag and selection 0 and every label and name
+// empty (a path type is chosen where the function has one).
+TEST_F(ListingTest, EveryFunctionWithFlagsOffAndLabelsEmpty) {
+  int count = 0;
+  for (int f = 0; f < kFuncCount; ++f) {
+    if (!IsLiveFunction(f)) continue;
+    Rec r(f);
+    if (f == 1 || f == 49 || f == 50 || f == 51) r.I32(0, kPathMessage);
+    if (f == 55) r.I32(480, kPathGeneral);
+    Add("", r);
+    ++count;
+  }
+  ASSERT_EQ(count, 52);
+  ExpectFile("every_function_flags_off.txt");
 }
 
 TEST_F(ListingTest, EmptyDeclarationsKeepTheirHeadings) {

@@ -94,6 +94,49 @@ TEST_F(PrintingTest, PageRangePrintsOnlyItsPages) {
   EXPECT_NE(pages[1][0].find("Page No. 003"), std::string::npos);
 }
 
+// The printer calls as they are made: each copy is a document of its own, ended on the
+// printer before the next copy starts; new pages only between the pages of one copy.
+class CallLog : public ui::HeadlessPlatform {
+ public:
+  void PrintRow(const std::string& row) override {
+    if (calls.empty() || calls.back() != "row") calls.push_back("row");
+    ui::HeadlessPlatform::PrintRow(row);
+  }
+  void NewPage() override {
+    calls.push_back("newpage");
+    ui::HeadlessPlatform::NewPage();
+  }
+  void EndDoc() override {
+    calls.push_back("enddoc");
+    ui::HeadlessPlatform::EndDoc();
+  }
+  std::vector<std::string> calls;
+};
+
+TEST_F(PrintingTest, EveryCopyEndsItsOwnDocument) {
+  Remarks(30);  // two pages
+  CallLog log;
+  ui::SetPlatform(&log);
+  PrintListingRows(FileRows(), "t", 0, 0, 3);
+  ui::SetPlatform(&platform);
+  const std::vector<std::string> copy = {"row", "newpage", "row", "enddoc"};
+  std::vector<std::string> expected;
+  for (int i = 0; i < 3; ++i) expected.insert(expected.end(), copy.begin(), copy.end());
+  EXPECT_EQ(log.calls, expected);
+}
+
+TEST_F(PrintingTest, RangeStartingLaterOpensNoPageBeforeItsFirst) {
+  Remarks(90);  // 187 rows: four pages
+  CallLog log;
+  ui::SetPlatform(&log);
+  PrintListingRows(FileRows(), "t", 3, 4, 2);
+  ui::SetPlatform(&platform);
+  const std::vector<std::string> copy = {"row", "newpage", "row", "enddoc"};
+  std::vector<std::string> expected;
+  for (int i = 0; i < 2; ++i) expected.insert(expected.end(), copy.begin(), copy.end());
+  EXPECT_EQ(log.calls, expected);
+}
+
 TEST_F(PrintingTest, CopiesRepeatEveryPage) {
   Remarks(30);  // 67 rows: two pages
   PrintListingRows(FileRows(), "t", 0, 0, 2);

@@ -1,11 +1,14 @@
 // The golden user stories: every tests/scripts/NAME.kqs runs in-process through the script
 // runner on the editor, and its JSON lines must equal NAME.expected. "$HOME" in a script
 // stands for a fresh folder of the run; the output names it the same way. A NAME.settings
-// file is the settings store at start; the store at the end follows the events.
+// file is the settings store at start; the store at the end follows the events. A NAME.kqx
+// file is copied into the folder of the run before it starts, for the script to open. The date
+// and time of a printed page header are the clock's: they read "####-##-## ##:##:##".
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -64,6 +67,11 @@ TEST_P(ScriptGolden, EventsMatchExpected) {
     std::ofstream(settings, std::ios::binary)
         << ReplaceAll(ReadText(settingsSeed), "$HOME", homeText);
   }
+  fs::path documentSeed = script;
+  documentSeed.replace_extension(".kqx");
+  if (fs::exists(documentSeed)) {
+    std::ofstream(home / documentSeed.filename(), std::ios::binary) << ReadText(documentSeed);
+  }
 
   std::istringstream in(ReplaceAll(ReadText(script), "$HOME", homeText));
   std::ostringstream out;
@@ -77,6 +85,8 @@ TEST_P(ScriptGolden, EventsMatchExpected) {
   actual += "{\"exit\":" + std::to_string(status) + "}\n";
   for (const auto& line : Lines(ReadText(settings))) actual += "{\"setting\":\"" + line + "\"}\n";
   actual = ReplaceAll(actual, homeText, "$HOME");
+  static const std::regex clock("Date/Time: [0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2}");
+  actual = std::regex_replace(actual, clock, "Date/Time: ####-##-## ##:##:##");
 
   fs::path expectedPath = script;
   expectedPath.replace_extension(".expected");
