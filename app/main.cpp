@@ -39,6 +39,7 @@ int main(int argc, char** argv) {
   PlaceholderForm form;
   platform.Show(form);
   const int code = QApplication::exec();
+  platform.CloseMain();
   ui::SetPlatform(nullptr);
   return code;
 }

@@ -161,6 +161,7 @@ void ListBox::UserClick() {
 void ListBox::UserSelect(int index) {
   if (index < 0 || index >= ListCount()) return;
   std::fill(selected_.begin(), selected_.end(), 0);
+  Notify(Change::What::Selection);
   SetListIndex(index);
 }
 

@@ -34,10 +34,10 @@ ControlBinding::~ControlBinding() {
   Detach();
 }
 
-void ControlBinding::Detach() {
+void ControlBinding::Detach(bool controlAlive) {
   if (!attached_) return;
   attached_ = false;
-  control_.observer = nullptr;
+  if (controlAlive) control_.observer = nullptr;
   if (widget_) widget_->removeEventFilter(this);
 }
 

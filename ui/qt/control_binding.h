@@ -24,8 +24,9 @@ class ControlBinding : public QObject {
   QWidget* widget() const { return widget_; }
   // Shows the model's state in the widget: after building, and on every change.
   void Refresh() { Sync(Change{}); }
-  // Forgets the control (the form goes away) so that nothing calls back into it.
-  void Detach();
+  // Forgets the control (the form goes away) so that nothing calls back into it. A
+  // control that no longer exists is not touched.
+  void Detach(bool controlAlive = true);
 
   // The binding that is mirroring a model change right now; focus events it causes are
   // the model's own and are not reported back.

@@ -47,7 +47,7 @@ FormBinding::~FormBinding() {
   // be told; only the live ones are detached.
   const auto& live = form_.Controls();
   for (auto& b : bindings_) {
-    if (std::find(live.begin(), live.end(), &b->control()) != live.end()) b->Detach();
+    b->Detach(std::find(live.begin(), live.end(), &b->control()) != live.end());
   }
 }
 

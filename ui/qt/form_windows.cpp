@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "ui/qt/cp1252.h"
 
@@ -41,7 +42,10 @@ void DialogWindow::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   // The control the form's Load chose gets the focus once the window can take it.
   QTimer::singleShot(0, this, [this] {
-    if (!finished_) binding_->ApplyFocus();
+    if (finished_) return;
+    activateWindow();
+    binding_->ApplyFocus();
+    if (afterShown) std::exchange(afterShown, nullptr)();
   });
 }
 

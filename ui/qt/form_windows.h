@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <QMainWindow>
+#include <functional>
 #include <memory>
 
 #include "ui/qt/form_binding.h"
@@ -16,6 +17,8 @@ class DialogWindow : public QDialog {
   DialogWindow(Form& form, QWidget* parent);
   FormBinding& binding() { return *binding_; }
   void Finish();  // the form has unloaded
+  // Runs once the dialog is shown and its focus is placed (test hooks act from here).
+  std::function<void()> afterShown;
 
  protected:
   void closeEvent(QCloseEvent* event) override;

@@ -142,6 +142,12 @@ QtPlatform::QtPlatform() = default;
 QtPlatform::~QtPlatform() {
   if (print_) print_->End();
   delete help_;
+  CloseMain();
+}
+
+void QtPlatform::CloseMain() {
+  delete main_;
+  main_ = nullptr;
 }
 
 HelpWindow* QtPlatform::HelpWindowShown() const {
@@ -212,8 +218,9 @@ void QtPlatform::ShowModal(Form& form) {
     if (!modal_.empty()) {
       auto action = std::move(modal_.front());
       modal_.pop_front();
-      QTimer::singleShot(
-          0, window, [window, action = std::move(action)] { action(*window, window->binding()); });
+      window->afterShown = [window, action = std::move(action)] {
+        action(*window, window->binding());
+      };
     }
     window->exec();
   }
@@ -229,6 +236,7 @@ void QtPlatform::ShowModal(Form& form) {
 }
 
 void QtPlatform::Show(Form& form) {
+  CloseMain();
   main_ = new MainWindow(form);
   form.DoLoad();
   if (!form.Loaded()) return;

@@ -60,6 +60,8 @@ class QtPlatform : public Platform {
 
   // ---- The windows of the forms now shown
   MainWindow* Main() const { return main_; }
+  // Takes the main window down; call it before its form goes away.
+  void CloseMain();
   FormBinding* BindingOf(const Form& form) const;
   QWidget* WindowOf(const Form& form) const;
   HelpWindow* HelpWindowShown() const;
