@@ -32,6 +32,15 @@ ShellHooks Shell;
 
 namespace {
 ui::ListBox* g_editList = nullptr;
+ui::Form* g_mainWindow = nullptr;
+}  // namespace
+
+ui::Form* MainWindow() {
+  return g_mainWindow;
+}
+
+void SetMainWindow(ui::Form* form) {
+  g_mainWindow = form;
 }
 
 ui::ListBox& EditList() {

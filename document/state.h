@@ -12,8 +12,9 @@
 #include "document/records.h"
 
 namespace ui {
+class Form;
 class ListBox;
-}
+}  // namespace ui
 
 namespace kq {
 
@@ -58,6 +59,11 @@ extern bool FuncPick;
 // of the line texts. The main window registers its list here at start.
 ui::ListBox& EditList();
 void SetEditList(ui::ListBox* list);
+
+// The main window, on which CenterForm centres the dialogs; registered by the main window
+// at start. Null until then: dialogs are then centred on the screen.
+ui::Form* MainWindow();
+void SetMainWindow(ui::Form* form);
 
 // What the file routines ask of the main window.
 struct ShellHooks {

@@ -1,6 +1,7 @@
 #include "ui/model/list_controls.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace ui {
 
@@ -74,6 +75,18 @@ void ListBox::AddItem(std::string text, int index) {
   selected_.insert(selected_.begin() + at, 0);
   if (listIndex_ >= at) ++listIndex_;
   Notify(Change::What::ItemsInserted, at, 1);
+}
+
+void ListBox::InsertItems(int index, std::vector<std::string> items) {
+  if (items.empty()) return;
+  const int at = (index < 0 || index > ListCount()) ? ListCount() : index;
+  const int n = static_cast<int>(items.size());
+  items_.insert(items_.begin() + at, std::make_move_iterator(items.begin()),
+                std::make_move_iterator(items.end()));
+  selected_.insert(selected_.begin() + at, items.size(), 0);
+  newIndex_ = at + n - 1;
+  if (listIndex_ >= at) listIndex_ += n;
+  Notify(Change::What::ItemsInserted, at, n);
 }
 
 void ListBox::RemoveItem(int index) {

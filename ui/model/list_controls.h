@@ -42,6 +42,9 @@ class ListBox : public Control, public ItemList {
   void SetTabStops(std::vector<int> stops);
 
   void AddItem(std::string text, int index = -1);
+  // Inserts a run of items at index in one move (unsorted lists), as that many AddItem
+  // calls at index, index + 1, ... would; NewIndex is the last one's.
+  void InsertItems(int index, std::vector<std::string> items);
   void RemoveItem(int index);
   void Clear();
   void SetList(int index, std::string text);  // replaces the text of one item

@@ -1,0 +1,31 @@
+// The messages for run-time errors of file and drive operations, and the system's error
+// numbers for the errors this platform reports.
+#pragma once
+
+#include <string>
+
+namespace kq {
+
+// Action codes of HandleDiskError.
+inline constexpr int kDiskRetry = 0;  // repeat the failing statement
+inline constexpr int kDiskNext = 1;   // go on after it
+inline constexpr int kDiskLeave = 2;  // leave the handler quietly
+inline constexpr int kDiskRaise = 3;  // raise the same error again
+
+// The system's run-time error numbers of file operations.
+inline constexpr int kErrSubscript = 9;
+inline constexpr int kErrDiskFull = 61;
+inline constexpr int kErrDeviceUnavailable = 68;
+inline constexpr int kErrPermissionDenied = 70;
+inline constexpr int kErrDiskNotReady = 71;
+inline constexpr int kErrPathNotFound = 76;
+
+// Shows the box for the error under the title and returns the action code.
+int HandleDiskError(const std::string& title, int errorNumber);
+
+// The system's error number for an errno value: 61 disk full, 68 device unavailable,
+// 70 permission denied, 71 not ready, 76 path not found; any other value stands for
+// itself.
+int SystemErrorNumber(int errnoValue);
+
+}  // namespace kq

@@ -1,0 +1,25 @@
+// What the save, open and insert routines share.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace kq {
+
+// Reads the whole file, retrying as long as the user answers Retry to HandleDiskError
+// under `title`. False when the command is to end.
+bool ReadFileForCommand(const std::string& title, const std::string& path,
+                        std::vector<uint8_t>& bytes);
+
+// The exclamation box of a refused file under "File Error".
+void FileErrorBox(const std::string& text);
+
+// Replaces the first four characters of a DisplayLine by the number as four digits.
+void SetLineNumber(std::string& displayLine, int number);
+
+// A retried statement gives up after this many attempts in a row, so that a platform
+// answering Retry by itself cannot hold the program forever.
+inline constexpr int kMaxRetries = 100;
+
+}  // namespace kq

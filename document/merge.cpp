@@ -1,0 +1,321 @@
+// Save Part staging and InsertFile.
+//
+// InsertFile checks everything before it changes the document: the file is read whole
+// and must be a complete 3.10 file, the declarations must merge, and the lines must fit
+// in the 10,001 of the stores. That last check has no message of its own: like the
+// array bound it stands for, it goes to HandleDiskError as run-time error 9, which shows
+// no box and asks to raise the error again; here that ends the command with nothing
+// more shown and the document as it was.
+#include "document/merge.h"
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "document/byte_reader.h"
+#include "document/disk_error.h"
+#include "document/document.h"
+#include "document/file.h"
+#include "document/file_common.h"
+#include "document/kqx_format.h"
+#include "document/state.h"
+#include "document/text.h"
+#include "ui/model/list_controls.h"
+#include "ui/platform/platform.h"
+
+namespace kq {
+
+namespace {
+
+bool Named(const VarRef& v) {
+  return !FieldEmpty(View(v.VarRefName));
+}
+template <size_t N>
+bool Named(const char (&field)[N]) {
+  return !FieldEmpty(View(field));
+}
+template <size_t N>
+bool SameField(const char (&a)[N], const char (&b)[N]) {
+  return std::memcmp(a, b, N) == 0;
+}
+
+void Refuse(const std::string& text, const std::string& title) {
+  ui::platform().MsgBox(text, ui::vbOKOnly | ui::vbExclamation, title);
+}
+
+std::string DataTypeName(int32_t type) {
+  if (type < 0 || type > 2) return Str(int64_t{type});
+  return RTrim(Row(DataTypeNames[type]));
+}
+
+// The document's entry with the same name, or -1.
+int FindVariable(const VarRef& v) {
+  for (int i = 0; i < kMaxVariables; ++i) {
+    const VarRef& d = PrgHdr.Variable[i];
+    if (Named(d) && SameField(d.VarRefName, v.VarRefName)) return i;
+  }
+  return -1;
+}
+int FindPath(int type, const PathEntry& e) {
+  for (int r = 0; r < kPathRows; ++r) {
+    const PathEntry& d = PrgHdr.Path[r][type];
+    if (Named(d.PathName) && SameField(d.PathName, e.PathName)) return r;
+  }
+  return -1;
+}
+int FindTable(const TableEntry& t) {
+  for (int i = 0; i < kMaxTables; ++i) {
+    const TableEntry& d = PrgHdr.Table[i];
+    if (Named(d.TableName) && SameField(d.TableName, t.TableName)) return i;
+  }
+  return -1;
+}
+
+// Steps 4 to 9: every refusal of the declarations, in order. False after a box.
+bool DeclarationsMerge() {
+  for (const VarRef& c : CopyHdr.Variable) {
+    if (!Named(c)) continue;
+    for (const VarRef& d : PrgHdr.Variable) {
+      if (Named(d) && SameField(d.VarRefName, c.VarRefName) && d.VarRefType != c.VarRefType) {
+        Refuse("Variable " + Text(c.VarRefName) + " is defined as " + DataTypeName(d.VarRefType) +
+                   " and " + DataTypeName(c.VarRefType) + " respectively.",
+               "Variable Error");
+        return false;
+      }
+    }
+  }
+
+  int variables = 0;
+  for (const VarRef& d : PrgHdr.Variable) variables += Named(d) ? 1 : 0;
+  for (const VarRef& c : CopyHdr.Variable) variables += Named(c) && FindVariable(c) < 0 ? 1 : 0;
+  if (variables > kMaxVariables) {
+    Refuse("Exceeded maximum number of allowed variables, which are" + Str(int64_t{kMaxVariables}) +
+               ".",
+           "Variable Error");
+    return false;
+  }
+
+  for (int t = 0; t < kPathTypes; ++t) {
+    for (int r = 0; r < kPathRows; ++r) {
+      const PathEntry& c = CopyHdr.Path[r][t];
+      if (!Named(c.PathText)) continue;
+      for (int q = 0; q < kPathRows; ++q) {
+        const PathEntry& d = PrgHdr.Path[q][t];
+        if (Named(d.PathText) && SameField(d.PathName, c.PathName) &&
+            !SameField(d.PathText, c.PathText)) {
+          Refuse("Path variable " + Text(c.PathName) + " is defined as " + Text(d.PathText) +
+                     " and " + Text(c.PathText) + " respectively.",
+                 "Path Variable Error");
+          return false;
+        }
+      }
+    }
+  }
+
+  for (int t = 0; t < kPathTypes; ++t) {
+    int paths = 0;
+    for (int r = 0; r < kPathRows; ++r) paths += Named(PrgHdr.Path[r][t].PathName) ? 1 : 0;
+    for (int r = 0; r < kPathRows; ++r) {
+      const PathEntry& c = CopyHdr.Path[r][t];
+      paths += Named(c.PathName) && FindPath(t, c) < 0 ? 1 : 0;
+    }
+    if (paths > kPathRows) {
+      Refuse("Exceeded maximum number of allowed path variables, which are" +
+                 Str(int64_t{kPathRows}) + ".",
+             "Variable Error");
+      return false;
+    }
+  }
+
+  // A table that both declare is refused, even when both hold the same columns.
+  for (const TableEntry& c : CopyHdr.Table) {
+    if (Named(c.TableName) && FindTable(c) >= 0) {
+      Refuse("Database table " + Text(c.TableName) + " have different variables defined in field" +
+                 Str(int64_t{1}),
+             "Database Table Error");
+      return false;
+    }
+  }
+
+  int tables = 0;
+  for (const TableEntry& d : PrgHdr.Table) tables += Named(d.TableName) ? 1 : 0;
+  for (const TableEntry& c : CopyHdr.Table) tables += Named(c.TableName) && FindTable(c) < 0;
+  if (tables > kMaxTables) {
+    Refuse("Exceeded maximum number of allowed database tables, which are" +
+               Str(int64_t{kMaxTables}) + ".",
+           "Database Table Error");
+    return false;
+  }
+  return true;
+}
+
+// Steps 10 to 12: new declarations go to the first free entries; nothing is re-sorted.
+void MergeDeclarations() {
+  for (const VarRef& c : CopyHdr.Variable) {
+    if (!Named(c) || FindVariable(c) >= 0) continue;
+    for (VarRef& d : PrgHdr.Variable) {
+      if (!Named(d)) {
+        d = c;
+        break;
+      }
+    }
+  }
+  for (int t = 0; t < kPathTypes; ++t) {
+    for (int r = 0; r < kPathRows; ++r) {
+      const PathEntry& c = CopyHdr.Path[r][t];
+      if (!Named(c.PathName) || FindPath(t, c) >= 0) continue;
+      for (int q = 0; q < kPathRows; ++q) {
+        if (!Named(PrgHdr.Path[q][t].PathName)) {
+          PrgHdr.Path[q][t] = c;
+          break;
+        }
+      }
+    }
+  }
+  for (const TableEntry& c : CopyHdr.Table) {
+    if (!Named(c.TableName)) continue;
+    for (TableEntry& d : PrgHdr.Table) {
+      if (!Named(d.TableName)) {
+        d = c;
+        break;
+      }
+    }
+  }
+}
+
+// Steps 13 to 15: the new DisplayLines and lines go in before `position`; the later
+// lines move up in one pass, each block by its record length only.
+void MergeLines(ByteReader& in, int position, int count) {
+  ui::ListBox& list = EditList();
+  const int before = list.ListCount();
+
+  std::vector<std::string> items(static_cast<size_t>(count));
+  for (int k = 0; k < count; ++k) {
+    items[k].assign(reinterpret_cast<const char*>(in.Bytes(kDisplayLineWidth)), kDisplayLineWidth);
+    SetLineNumber(items[k], position + k);
+  }
+  list.InsertItems(position, std::move(items));
+  for (int i = position + count; i < list.ListCount(); ++i) {
+    std::string text = list.List(i);
+    SetLineNumber(text, i);
+    list.SetList(i, std::move(text));
+  }
+
+  for (int j = before - 1; j >= position && count > 0; --j) {
+    LineTable[j + count] = LineTable[j];
+    CopyFuncParm(j + count, j, LineTable[j].LineFuncNo);
+  }
+  for (int k = 0; k < count; ++k) {
+    ProgramLine& line = LineTable[position + k];
+    ReadProgramLine(in, line);
+    const int funcNo = line.LineFuncNo;
+    in.Read(WorkRecord.Image(funcNo), static_cast<size_t>(kCatalogueLength[funcNo]));
+    FuncNo = static_cast<int16_t>(funcNo);
+    FuncLabel = RTrim(View(line.LineLabel));
+    FuncName.assign(line.LineFuncName, sizeof line.LineFuncName);
+    UpdateFuncParm(position + k, funcNo);
+  }
+  PrgHdr.LineCount = static_cast<int16_t>(before + count);
+}
+
+}  // namespace
+
+bool VarUsedInLines(const VarRef& v, int firstLine, int lastLine) {
+  if (Named(PrgHdr.Table[0].TableName)) {
+    for (const TableEntry& t : PrgHdr.Table) {
+      if (!Named(t.TableName)) continue;
+      for (const VarRef& c : t.Column) {
+        if (Named(c) && VarRefEqual(c, v)) return true;
+      }
+    }
+  }
+  for (int i = firstLine; i <= lastLine; ++i) {
+    if (FoundVarFunc(i, v)) return true;
+  }
+  return false;
+}
+
+bool PathUsedInLines(int32_t pathType, std::string_view name28, int firstLine, int lastLine) {
+  for (int i = firstLine; i <= lastLine; ++i) {
+    if (FoundPathFunc(i, pathType, name28)) return true;
+  }
+  return false;
+}
+
+void StagePartVariables(int firstLine, int lastLine) {
+  int j = 0;
+  for (int i = 0; i < kMaxVariables; ++i) {
+    CopyHdr.Variable[i] = BlankVarRef;
+    const VarRef& v = PrgHdr.Variable[i];
+    if (Named(v) && VarUsedInLines(v, firstLine, lastLine)) CopyHdr.Variable[j++] = v;
+  }
+}
+
+void StagePartPaths(int firstLine, int lastLine) {
+  for (int t = 0; t < kPathTypes; ++t) {
+    int j = 0;
+    for (int i = 0; i < kPathRows; ++i) {
+      CopyHdr.Path[i][t] = BlankPathEntry;
+      const PathEntry& e = PrgHdr.Path[i][t];
+      if (Named(e.PathName) &&
+          PathUsedInLines(kPathExport + t, View(e.PathName), firstLine, lastLine)) {
+        CopyHdr.Path[j++][t] = e;
+      }
+    }
+  }
+}
+
+void InsertFile(std::string& title, std::string& fileName, int position) {
+  ui::Platform& p = ui::platform();
+  p.SetMousePointer(ui::vbHourglass);
+  struct RestorePointer {
+    ui::Platform& p;
+    ~RestorePointer() { p.SetMousePointer(ui::vbDefault); }
+  } restore{p};
+
+  std::vector<uint8_t> bytes;
+  if (!ReadFileForCommand("Insert", fileName, bytes)) return;
+
+  KqxImage image;
+  const KqxCheck check = CheckImage(bytes.data(), bytes.size(), image);
+  if (check == KqxCheck::Empty) {
+    FileErrorBox("File " + title + " doesn't exist.");
+    return;
+  }
+  if (check == KqxCheck::WrongVersion ||
+      (image.version != KqxVersion::Current && bytes.size() >= kVersionSize)) {
+    FileErrorBox(VersionMessage(title, image.versionText) +
+                 "\rYou can only insert a KQX file format with version: 3.10");
+    return;
+  }
+  if (check == KqxCheck::Damaged) {
+    FileErrorBox("File " + title + " is damaged.");
+    return;
+  }
+
+  ByteReader in(bytes.data(), bytes.size());
+  in.Skip(image.headerPos);
+  ReadHeader(in, CopyHdr);
+  if (!DeclarationsMerge()) return;
+
+  ui::ListBox& list = EditList();
+  const int before = list.ListCount();
+  if (before + image.lineCount > kMaxLines) {
+    HandleDiskError("Insert", kErrSubscript);
+    return;
+  }
+  if (image.walk.illegalLine >= 0) {
+    ui::ProgramError("Illegal Function Number " + Str(int64_t{image.walk.illegalFuncNo}) +
+                     " in Global InsertFile.");
+  }
+  if (position < 0) position = 0;
+  if (position > before) position = before;
+
+  MergeDeclarations();
+  in.Skip(image.displayPos - in.pos());
+  MergeLines(in, position, image.lineCount);
+  ChangedFlag = true;
+  PrgHdr.CompiledFlag = 0;
+}
+
+}  // namespace kq
