@@ -1,0 +1,129 @@
+// A document and a main window for the dialog tests: the headless platform, the name tables,
+// the defaults of the records the tests use, an empty header and a list of DisplayLines.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "document/catalogue.h"
+#include "document/document.h"
+#include "document/state.h"
+#include "document/text.h"
+#include "ui/headless/headless_platform.h"
+#include "ui/model/controls.h"
+#include "ui/model/form.h"
+#include "ui/model/list_controls.h"
+
+namespace kqtest {
+
+class MainWindow : public ui::Form {
+ public:
+  MainWindow() : Form("frmEdit", "KQEdit") {}
+  ui::ListBox lstEdit{*this, "lstEdit"};
+};
+
+class DialogTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ui::SetPlatform(&p);
+    kq::InitDocument();
+    kq::InitNameTables();
+    kq::GetFuncRecordLength();
+    // A working record left over from elsewhere: the dialogs must not depend on it.
+    std::memset(&kq::WorkRecord, 0x55, sizeof kq::WorkRecord);
+    kq::PrgHdr.CompiledFlag = -1;
+    window.Move(1000, 500, 12000, 9000);
+    kq::SetEditList(&window.lstEdit);
+    kq::SetMainWindow(&window);
+    kq::FuncModify = false;
+    kq::FuncOk = false;
+    kq::FuncPick = false;
+    kq::ChangedFlag = false;
+    kq::ShowAllFunctions = false;
+  }
+  void TearDown() override {
+    kq::SetMainWindow(nullptr);
+    kq::SetEditList(nullptr);
+    ui::SetPlatform(nullptr);
+  }
+
+  // Declares a variable in the next free entry.
+  static void AddVariable(const std::string& name, int32_t type) {
+    for (auto& v : kq::PrgHdr.Variable) {
+      if (kq::FieldEmpty(kq::View(v.VarRefName))) {
+        v.VarRefType = type;
+        kq::SetField(v.VarRefName, name);
+        return;
+      }
+    }
+  }
+  static void DeclarePath(int32_t letter, int row, const std::string& name) {
+    kq::SetField(kq::PrgHdr.Path[row][letter - 65].PathName, name);
+  }
+  static void DeclareTable(int index, const std::string& name) {
+    kq::SetField(kq::PrgHdr.Table[index].TableName, name);
+  }
+
+  // Appends a line with a label and a function to the list and the line table.
+  void AddLine(const std::string& label, int funcNo, const std::string& text = "") {
+    const int n = window.lstEdit.ListCount();
+    window.lstEdit.AddItem(kq::Format0000(n) + text);
+    kq::SetField(kq::LineTable[n].LineLabel, label);
+    kq::LineTable[n].LineFuncNo = static_cast<int16_t>(funcNo);
+    kq::SetField(kq::LineTable[n].LineFuncName, kq::RTrimZ(kq::View(kq::FuncNames[funcNo])));
+  }
+
+  // The hand-over fields as the editor sets them before GetFuncParm.
+  static void PrepareNew(int funcNo) {
+    kq::FuncModify = false;
+    kq::FuncNo = static_cast<int16_t>(funcNo);
+    kq::FuncName = std::string(kq::View(kq::FuncNames[funcNo]));
+    kq::FuncLine = kq::NulToBlank(kq::View(kq::FuncNames[funcNo]));
+  }
+  void PrepareModify(int line, const kq::RecordSet& rec) {
+    const int funcNo = kq::LineTable[line].LineFuncNo;
+    PrepareNew(funcNo);
+    kq::FuncModify = true;
+    std::memcpy(kq::FuncBlock[line], rec.Image(funcNo), kq::RecordLength[funcNo]);
+    window.lstEdit.SetListIndex(line);
+  }
+
+  // Types the text on a control as a person does, through the form.
+  static void Type(ui::Control& control, const std::string& text) {
+    for (const char c : text) control.Parent().UserKey(control, static_cast<unsigned char>(c));
+  }
+
+  std::vector<std::string> Kinds() const {
+    std::vector<std::string> out;
+    for (const auto& e : p.Events()) out.push_back(e.kind);
+    return out;
+  }
+  std::vector<std::string> BoxTexts() const {
+    std::vector<std::string> out;
+    for (const auto& e : p.EventsOf("msgbox")) out.push_back(e.fields["text"].Str());
+    return out;
+  }
+  // The control that the last focus event named, as "name" or "name(index)".
+  std::string LastFocus() const {
+    const auto focus = p.EventsOf("focus");
+    if (focus.empty()) return "";
+    const auto& f = focus.back().fields;
+    std::string s = f["control"].Str();
+    if (!f["index"].IsNull()) s += "(" + std::to_string(f["index"].Int()) + ")";
+    return s;
+  }
+
+  ui::HeadlessPlatform p;
+  MainWindow window;
+};
+
+// The bytes of a record as they will stand in the line's block.
+template <typename T>
+std::string Bytes(const T& rec) {
+  return std::string(reinterpret_cast<const char*>(&rec), sizeof rec);
+}
+
+}  // namespace kqtest

@@ -1,0 +1,76 @@
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+#include "document/disk_error.h"
+#include "ui/headless/headless_platform.h"
+
+namespace {
+
+using namespace kq;
+
+class DiskErrorTest : public ::testing::Test {
+ protected:
+  void SetUp() override { ui::SetPlatform(&p_); }
+  void TearDown() override { ui::SetPlatform(nullptr); }
+  ui::HeadlessPlatform p_;
+};
+
+TEST_F(DiskErrorTest, BoxesAndActionCodes) {
+  const struct {
+    int error;
+    const char* text;
+    const char* buttons;
+    int answer;
+    int action;
+  } cases[] = {
+      {61, "Disk is full.\r\rInsert a new disk and try again.", "RetryCancel", ui::vbRetry, 0},
+      {61, "Disk is full.\r\rInsert a new disk and try again.", "RetryCancel", ui::vbCancel, 2},
+      {68, "There is no disk in the selected drive.Insert a disk and try again.", "RetryCancel",
+       ui::vbRetry, 0},
+      {68, "There is no disk in the selected drive.Insert a disk and try again.", "RetryCancel",
+       ui::vbIgnore, 3},
+      {70, "This disk is write-protected.\r\rRemove the write-protection or use another disk.",
+       "OK", ui::vbOK, 2},
+      {70, "This disk is write-protected.\r\rRemove the write-protection or use another disk.",
+       "OK", ui::vbCancel, 3},
+      {71,
+       "Cannot read selected drive.\rMake sure that the drive door is closed and that the disk is "
+       "formatted and free of errors.",
+       "RetryCancel", ui::vbCancel, 2},
+      {76, "Path do not exist.", "OK", ui::vbOK, 2},
+  };
+  for (const auto& c : cases) {
+    p_.ClearEvents();
+    p_.QueueAnswer(c.answer);
+    EXPECT_EQ(HandleDiskError("Save", c.error), c.action) << c.error;
+    ASSERT_EQ(p_.CountOf("msgbox"), 1);
+    const auto& box = p_.Events()[0].fields;
+    EXPECT_EQ(box["title"].Str(), "Save");
+    EXPECT_EQ(box["text"].Str(), c.text);
+    EXPECT_EQ(box["buttons"].Str(), c.buttons);
+    EXPECT_EQ(box["icon"].Str(), "exclamation");
+  }
+}
+
+TEST_F(DiskErrorTest, OtherErrorsRaiseWithoutABox) {
+  EXPECT_EQ(HandleDiskError("Insert", 9), 3);
+  EXPECT_EQ(HandleDiskError("Open", 53), 3);
+  EXPECT_EQ(p_.CountOf("msgbox"), 0);
+}
+
+TEST(SystemErrorNumber, MapsTheErrorsOfThisPlatform) {
+  EXPECT_EQ(SystemErrorNumber(ENOSPC), 61);
+  EXPECT_EQ(SystemErrorNumber(ENXIO), 68);
+  EXPECT_EQ(SystemErrorNumber(ENODEV), 68);
+  EXPECT_EQ(SystemErrorNumber(EACCES), 70);
+  EXPECT_EQ(SystemErrorNumber(EPERM), 70);
+  EXPECT_EQ(SystemErrorNumber(EROFS), 70);
+  EXPECT_EQ(SystemErrorNumber(EIO), 71);
+  EXPECT_EQ(SystemErrorNumber(EBUSY), 71);
+  EXPECT_EQ(SystemErrorNumber(ENOENT), 76);
+  EXPECT_EQ(SystemErrorNumber(ENOTDIR), 76);
+  EXPECT_EQ(SystemErrorNumber(EISDIR), EISDIR);
+}
+
+}  // namespace
