@@ -1,45 +1,23 @@
-// KQEdit: the desktop program. Settings are read before the window exists, then the main
-// window is loaded and shown; the window system's loop is the program's only loop.
+// KQEdit: the desktop program. The main window reads its settings before it exists, then
+// is loaded and shown; the window system's loop is the program's only loop.
 #include <QApplication>
+#include <memory>
 
-#include "ui/model/controls.h"
-#include "ui/model/form.h"
-#include "ui/model/list_controls.h"
+#include "editor/frm_edit.h"
 #include "ui/qt/qt_platform.h"
-
-namespace {
-
-// Stands for the main window until the editor's own form is part of the program.
-class PlaceholderForm : public ui::Form {
- public:
-  PlaceholderForm() : Form("frmEdit", "Zelvox Voice Response Editor: Untitled") {
-    lblBar.SetWidth(9000);
-    lstEdit.SetWidth(9000);
-    Place(lblBar, 0, 0);
-    Place(lstEdit, 1, 0);
-  }
-  ui::Label lblBar{*this, "lblBar", "Line\tLabel\tFunction\tParameters"};
-  ui::ListBox lstEdit{*this, "lstEdit"};
-
- protected:
-  void Form_Load() override {
-    lstEdit.SetTabStops({25, 79, 150});
-    Move(1800, 1350, 10800, 8100);
-  }
-};
-
-}  // namespace
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setOrganizationName(QStringLiteral("KQEdit"));
   QApplication::setApplicationName(QStringLiteral("KQEdit"));
+  QApplication::setQuitOnLastWindowClosed(false);  // the form decides when it is closed
   ui::qt::QtPlatform platform;
   ui::SetPlatform(&platform);
-  PlaceholderForm form;
-  platform.Show(form);
+  auto form = std::make_unique<kq::FrmEdit>();  // the first stage of start-up
+  platform.Show(*form);
   const int code = QApplication::exec();
   platform.CloseMain();
+  form.reset();
   ui::SetPlatform(nullptr);
   return code;
 }

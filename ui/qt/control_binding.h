@@ -23,7 +23,9 @@ class ControlBinding : public QObject {
   Control& control() const { return control_; }
   QWidget* widget() const { return widget_; }
   // Shows the model's state in the widget: after building, and on every change.
-  void Refresh() { Sync(Change{}); }
+  void Refresh() {
+    if (attached_) Sync(Change{});
+  }
   // Forgets the control (the form goes away) so that nothing calls back into it. A
   // control that no longer exists is not touched.
   void Detach(bool controlAlive = true);
@@ -46,6 +48,7 @@ class ControlBinding : public QObject {
   // The text selected in the widget, for copy and cut.
   virtual QString SelectedText() const { return {}; }
 
+  bool attached() const { return attached_; }
   bool eventFilter(QObject* watched, QEvent* event) override;
   bool HandleKey(QKeyEvent& e);
 

@@ -125,7 +125,12 @@ void FormBinding::SetBuddies(const Layout& layout) {
 
 MenuBinding* FormBinding::BindMenu(Menu& menu) {
   if (auto it = byControl_.find(&menu); it != byControl_.end()) {
-    return static_cast<MenuBinding*>(it->second);
+    // A menu item made at run time may take the place of one that was destroyed; its
+    // binding is only still good while the item listens to it.
+    if (menu.observer) return static_cast<MenuBinding*>(it->second);
+    it->second->Detach(false);
+    container_->window()->removeAction(static_cast<MenuBinding*>(it->second)->action());
+    byControl_.erase(it);
   }
   auto b = std::make_unique<MenuBinding>(menu, container_->window(),
                                          [this](Menu& m) { return BindMenu(m); });

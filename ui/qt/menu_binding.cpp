@@ -12,6 +12,7 @@ MenuBinding::MenuBinding(Menu& menu, QWidget* owner, Resolver resolver)
   if (!menu.Items().empty()) submenu_ = new QMenu(owner);
   action_ = submenu_ ? submenu_->menuAction() : new QAction(owner);
   QObject::connect(action_, &QAction::triggered, this, [this] {
+    if (!attached()) return;
     Refresh();  // the action's own check toggle does not count
     if (menu_.Usable()) menu_.UserClick();
   });
