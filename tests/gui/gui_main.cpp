@@ -3,7 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialog>
+#include <QMessageBox>
+#include <QPointer>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <cstdio>
 #include <cstdlib>
 
 int main(int argc, char** argv) {
@@ -17,5 +22,25 @@ int main(int argc, char** argv) {
   QApplication::setOrganizationName(QStringLiteral("KQEdit"));
   QApplication::setApplicationName(QStringLiteral("KQEdit"));
   ::testing::InitGoogleTest(&argc, argv);
+  // A modal window that nothing answers would hang the run: after a few seconds it is
+  // reported as a failure and taken down.
+  QPointer<QWidget> seen;
+  QTimer watchdog;
+  QObject::connect(&watchdog, &QTimer::timeout, [&seen] {
+    QWidget* modal = QApplication::activeModalWidget();
+    if (modal && modal == seen) {
+      ADD_FAILURE() << "modal window left open: " << modal->metaObject()->className() << " \""
+                    << modal->windowTitle().toStdString() << "\"";
+      if (auto* box = qobject_cast<QMessageBox*>(modal)) {
+        std::fprintf(stderr, "  text: %s\n", box->text().toStdString().c_str());
+      }
+      if (auto* dialog = qobject_cast<QDialog*>(modal)) dialog->done(0);
+      modal->hide();
+      seen = nullptr;
+      return;
+    }
+    seen = modal;
+  });
+  watchdog.start(3000);
   return RUN_ALL_TESTS();
 }

@@ -405,6 +405,9 @@ void QtPlatform::Help(HelpCommand command) {
 
 void QtPlatform::End() {
   // The program ends at once, without saving anything.
+  if (!ui::LastProgramError().empty()) {
+    std::fprintf(stderr, "KQEdit: Program Error: %s\n", ui::LastProgramError().c_str());
+  }
   std::fflush(nullptr);
   std::_Exit(1);
 }
