@@ -239,8 +239,12 @@ void ListBinding::Sync(const Change& change) {
       break;
     default:
       model_->Apply(change);
-      if (change.what == Change::What::ItemsReset) anchor_ = -1;
-      SyncSelection(Change{Change::What::Selection, 0, 0});
+      // Inserted and removed rows move the view's selection with them; only a new set of
+      // items needs the marks again.
+      if (change.what == Change::What::ItemsReset) {
+        anchor_ = -1;
+        SyncSelection(Change{Change::What::Selection, 0, 0});
+      }
       break;
   }
 }
