@@ -163,6 +163,15 @@ TEST_F(EditorWindowTest, GeometryFollowsTheModelInTwips) {
   QApplication::processEvents();
   EXPECT_EQ(form->Width(), window()->frameGeometry().width() * 15);
   EXPECT_EQ(form->Height(), window()->frameGeometry().height() * 15);
+  // A person may make the window smaller than it started.
+  window()->resize(400, 300);
+  QApplication::processEvents();
+  EXPECT_EQ(window()->width(), 400);
+  EXPECT_EQ(form->Width(), window()->frameGeometry().width() * 15);
+  // The model's own moves show at once.
+  form->Move(1500, 1500, 9000, 6000);
+  EXPECT_EQ(window()->frameGeometry().topLeft(), QPoint(100, 100));
+  EXPECT_EQ(window()->frameGeometry().width(), 600);
 }
 
 }  // namespace

@@ -30,8 +30,8 @@ std::vector<LayoutItem> InReadingOrder(const Layout& layout) {
 
 }  // namespace
 
-FormBinding::FormBinding(Form& form, QWidget* container, QMenuBar* menuBar)
-    : form_(form), container_(container) {
+FormBinding::FormBinding(Form& form, QWidget* container, QMenuBar* menuBar, bool widthHints)
+    : form_(form), container_(container), widthHints_(widthHints) {
   auto* grid = new QGridLayout(container);
   BuildGrid(form.layout(), grid, container);
   SetBuddies(form.layout());
@@ -90,8 +90,9 @@ void FormBinding::BuildGrid(const Layout& layout, QGridLayout* grid, QWidget* pa
     if (!b || !b->widget()) continue;
     QWidget* w = b->widget();
     const int hint = ToPixels(c.Width());
-    if (hint > 0 && (c.Kind() == ControlKind::TextBox || c.Kind() == ControlKind::ListBox ||
-                     c.Kind() == ControlKind::ComboBox)) {
+    if (widthHints_ && hint > 0 &&
+        (c.Kind() == ControlKind::TextBox || c.Kind() == ControlKind::ListBox ||
+         c.Kind() == ControlKind::ComboBox)) {
       w->setMinimumWidth(std::max(hint, w->minimumSizeHint().width()));
     }
     grid->addWidget(w, item.row, item.column, item.rowSpan, item.columnSpan);

@@ -32,8 +32,10 @@ inline int ToTwips(int pixels) {
 class FormBinding : public QObject {
  public:
   // Builds the controls into container (which gets a grid layout) and the menus into
-  // menuBar (none when null).
-  FormBinding(Form& form, QWidget* container, QMenuBar* menuBar);
+  // menuBar (none when null). With widthHints, the widths the form declares are the least
+  // widths of its text boxes, lists and combos (dialogs); a main window that a person
+  // sizes freely goes without.
+  FormBinding(Form& form, QWidget* container, QMenuBar* menuBar, bool widthHints = true);
   ~FormBinding() override;
 
   Form& form() const { return form_; }
@@ -55,6 +57,7 @@ class FormBinding : public QObject {
 
   Form& form_;
   QWidget* container_;
+  bool widthHints_;
   std::vector<std::unique_ptr<ControlBinding>> bindings_;
   std::map<const Control*, ControlBinding*> byControl_;
 };

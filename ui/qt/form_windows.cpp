@@ -65,8 +65,8 @@ MainWindow::MainWindow(Form& form) : form_(form) {
   setObjectName(QString::fromStdString(form.Name()));
   auto* body = new QWidget(this);
   setCentralWidget(body);
-  binding_ =
-      std::make_unique<FormBinding>(form, body, form.MenuBar().empty() ? nullptr : menuBar());
+  binding_ = std::make_unique<FormBinding>(form, body, form.MenuBar().empty() ? nullptr : menuBar(),
+                                           false);
   binding_->formChanged = [this] { ApplyForm(); };
   ApplyForm();
 }
