@@ -16,6 +16,7 @@
 #include <QTest>
 #include <memory>
 
+#include <QTextBrowser>
 #include "dialogs/frm_condition.h"
 #include "dialogs/frm_def_var.h"
 #include "dialogs/frm_func.h"
@@ -27,6 +28,7 @@
 #include "tests/gui/editor_fixture.h"
 #include "ui/qt/form_binding.h"
 #include "ui/qt/form_windows.h"
+#include "ui/qt/help_window.h"
 
 namespace {
 
@@ -172,6 +174,24 @@ TEST_F(EditorWindowTest, GeometryFollowsTheModelInTwips) {
   form->Move(1500, 1500, 9000, 6000);
   EXPECT_EQ(window()->frameGeometry().topLeft(), QPoint(100, 100));
   EXPECT_EQ(window()->frameGeometry().width(), 600);
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(EditorWindowTest, HelpMenuShowsTheManualAndClosingTheWindowClosesIt) {
+  platform.SetDataDirectory(QFileInfo(QStringLiteral(KQ_MANUAL_DIR)).path().toStdString());
+  action(form->mnuHelpItem[0])->trigger();
+  ui::qt::HelpWindow* help = platform.HelpWindowShown();
+  ASSERT_NE(help, nullptr);
+  EXPECT_TRUE(help->isVisible());
+  EXPECT_TRUE(help->browser()->toPlainText().contains("Contents"));
+  action(form->mnuHelpItem[2])->trigger();
+  EXPECT_TRUE(help->isVisible());
+  window()->close();  // nothing open: no prompts
+  EXPECT_FALSE(form->Loaded());
+  EXPECT_FALSE(help->isVisible());
 }
 
 }  // namespace
