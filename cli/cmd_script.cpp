@@ -1,15 +1,22 @@
 #include "cli/cmd_script.h"
 
+#include <cstdlib>
+#include <iostream>
+
 #include <fstream>
 #include <functional>
 #include <memory>
 
+#include "cli/commands.h"
 #include "document/state.h"
 #include "editor/frm_edit.h"
+#include "ui/headless/headless_platform.h"
 #include "ui/model/menu.h"
 #include "ui/platform/platform.h"
 
-namespace kq::cli {
+namespace kqx {
+
+using namespace kq;
 
 namespace {
 
@@ -74,57 +81,70 @@ ui::ScriptHooks EditorScriptHooks() {
   return hooks;
 }
 
-int CmdScript(const std::vector<std::string>& args, std::istream& in, std::ostream& out,
-              std::ostream& err) {
+// kqx script FILE|- [--settings FILE] [--data DIR] [--home DIR] [--screen W H]
+int CmdScript(CliContext& ctx) {
+  const std::vector<std::string>& args = ctx.args;
   static constexpr const char* kUsage =
       "usage: kqx script FILE|- [--settings FILE] [--data DIR] [--home DIR] [--screen W H]\n";
-  ui::ScriptOptions options;
-  options.homeDir = ".";
-  options.dataDir = ".";
+  std::string settingsFile;
+  std::string dataDir = ".";
+  std::string homeDir = ".";
+  int screenWidth = 28800;
+  int screenHeight = 16200;
   std::string file;
   for (size_t i = 0; i < args.size(); ++i) {
     const std::string& a = args[i];
-    auto value = [&](size_t n) -> bool {
-      if (i + n >= args.size()) return false;
-      return true;
-    };
-    if (a == "--settings" && value(1)) {
-      options.settingsFile = args[++i];
-    } else if (a == "--data" && value(1)) {
-      options.dataDir = args[++i];
-    } else if (a == "--home" && value(1)) {
-      options.homeDir = args[++i];
-    } else if (a == "--screen" && value(2)) {
-      try {
-        options.screenWidth = std::stoi(args[i + 1]);
-        options.screenHeight = std::stoi(args[i + 2]);
-      } catch (const std::exception&) {
-        err << "kqx script: --screen takes two numbers\n" << kUsage;
-        return 1;
+    const bool hasValue = i + 1 < args.size();
+    if (a == "--settings" && hasValue) {
+      settingsFile = args[++i];
+    } else if (a == "--data" && hasValue) {
+      dataDir = args[++i];
+    } else if (a == "--home" && hasValue) {
+      homeDir = args[++i];
+    } else if (a == "--screen" && i + 2 < args.size()) {
+      char* end1 = nullptr;
+      char* end2 = nullptr;
+      const long w = std::strtol(args[i + 1].c_str(), &end1, 10);
+      const long h = std::strtol(args[i + 2].c_str(), &end2, 10);
+      if (*end1 != '\0' || *end2 != '\0' || w <= 0 || h <= 0 || w > 1000000 || h > 1000000) {
+        ctx.err << "kqx script: --screen takes two positive numbers\n" << kUsage;
+        return kExitRefused;
       }
-      if (options.screenWidth <= 0 || options.screenHeight <= 0) {
-        err << "kqx script: --screen takes two positive numbers\n" << kUsage;
-        return 1;
-      }
+      screenWidth = static_cast<int>(w);
+      screenHeight = static_cast<int>(h);
       i += 2;
     } else if (file.empty() && (a == "-" || a.rfind("--", 0) != 0)) {
       file = a;
     } else {
-      err << "kqx script: unexpected argument " << a << "\n" << kUsage;
-      return 1;
+      ctx.err << "kqx script: unexpected argument " << a << "\n" << kUsage;
+      return kExitRefused;
     }
   }
   if (file.empty()) {
-    err << kUsage;
-    return 1;
+    ctx.err << kUsage;
+    return kExitRefused;
   }
-  if (file == "-") return ui::RunScript(in, out, options, EditorScriptHooks());
-  std::ifstream script(file, std::ios::binary);
-  if (!script) {
-    err << "kqx script: cannot read " << file << "\n";
-    return 1;
+  std::ifstream script;
+  if (file != "-") {
+    script.open(file, std::ios::binary);
+    if (!script) {
+      ctx.err << "kqx script: cannot read " << file << "\n";
+      return kExitRefused;
+    }
   }
-  return ui::RunScript(script, out, options, EditorScriptHooks());
+  ui::HeadlessPlatform& platform = ctx.platform;
+  platform.SetScreen(screenWidth, screenHeight);
+  platform.SetDataDirectory(dataDir);
+  platform.SetUserDirectory(homeDir);
+  platform.SetTempDirectory(homeDir);
+  platform.SettingsOf("KQEdit", "Settings").clear();
+  if (!settingsFile.empty()) platform.LoadSettingsFile(settingsFile);
+  const int status =
+      ui::RunScriptOn(platform, file == "-" ? std::cin : script, EditorScriptHooks());
+  if (!settingsFile.empty() && !platform.SaveSettingsFile(settingsFile)) {
+    ctx.err << "kqx script: cannot write " << settingsFile << "\n";
+  }
+  return status;
 }
 
-}  // namespace kq::cli
+}  // namespace kqx

@@ -21,7 +21,7 @@ frmCondition::frmCondition() : FuncDialog("frmCondition", "Condition", 3) {
   cboOperator.SetWidth(700);
   cboOperator.OnKeyPress = [](int& k) { SwallowEnter(k); };
 
-  PlaceLabelRow(5);
+  PlaceLabelRow();
   Place(lblCondition, 1, 0);
   Place(lblIf, 2, 0);
   Place(cboVar[0], 2, 1);

@@ -10,7 +10,7 @@ frmDelay::frmDelay() : FuncDialog("frmDelay", "Delay", 4) {
   txtDelay.SetMaxLength(4);
   txtDelay.SetWidth(900);
   txtDelay.OnKeyPress = [this](int& k) { LegalInput(txtDelay, 3, k); };
-  PlaceLabelRow(3);
+  PlaceLabelRow();
   Place(lblDelay, 1, 0);
   Place(txtDelay, 1, 1);
   Place(lblMS, 1, 2);

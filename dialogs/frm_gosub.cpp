@@ -11,7 +11,7 @@ frmGosub::frmGosub() : FuncDialog("frmGosub", "Gosub", 9) {
   cboError.SetWidth(2400);
   cboLabel.OnKeyPress = [this](int& k) { LegalLabelKey(cboLabel, k); };
   cboError.OnKeyPress = [this](int& k) { LegalLabelKey(cboError, k); };
-  PlaceLabelRow(3);
+  PlaceLabelRow();
   Place(lblGosubLabel, 1, 0);
   Place(cboLabel, 1, 1, 1, 2);
   Place(lblError, 2, 0);

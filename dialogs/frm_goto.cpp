@@ -9,7 +9,7 @@ namespace kq {
 frmGoto::frmGoto() : FuncDialog("frmGoto", "Goto", 10) {
   cboLabel.SetWidth(2400);
   cboLabel.OnKeyPress = [this](int& k) { LegalLabelKey(cboLabel, k); };
-  PlaceLabelRow(3);
+  PlaceLabelRow();
   Place(lblGotoLabel, 1, 0);
   Place(cboLabel, 1, 1, 1, 2);
   PlaceButtonRow(2, 3);

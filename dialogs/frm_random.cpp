@@ -20,7 +20,7 @@ frmRandom::frmRandom() : FuncDialog("frmRandom", "Random", 11) {
   cboVariable.SetStyle(ui::ComboBox::Style::DropdownList);
   cboVariable.SetWidth(2400);
   cboVariable.OnKeyPress = [](int& k) { SwallowEnter(k); };
-  PlaceLabelRow(5);
+  PlaceLabelRow();
   Place(txtLower, 1, 0);
   Place(lblLessEqual[0], 1, 1);
   Place(cboVariable, 1, 2);

@@ -10,7 +10,7 @@ frmRemark::frmRemark() : FuncDialog("frmRemark", "Remark", 13) {
   txtRemark.SetMaxLength(51);
   txtRemark.SetWidth(6000);
   txtRemark.OnKeyPress = [this](int& k) { txtRemark_KeyPress(k); };
-  PlaceLabelRow(3);
+  PlaceLabelRow();
   Place(lblRemark, 1, 0);
   Place(txtRemark, 1, 1, 1, 2);
   PlaceButtonRow(2, 3);

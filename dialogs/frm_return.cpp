@@ -9,7 +9,7 @@ namespace kq {
 frmReturn::frmReturn() : FuncDialog("frmReturn", "Return", 14) {
   cboError.SetWidth(2400);
   cboError.OnKeyPress = [this](int& k) { LegalLabelKey(cboError, k); };
-  PlaceLabelRow(3);
+  PlaceLabelRow();
   Place(lblError, 1, 0);
   Place(cboError, 1, 1, 1, 2);
   PlaceButtonRow(2, 3);

@@ -75,9 +75,9 @@ bool FuncDialog::RequireLabel(ui::ComboBox& combo) {
   return false;
 }
 
-void FuncDialog::PlaceLabelRow(int columns) {
+void FuncDialog::PlaceLabelRow() {
   Place(lblLabel, 0, 0);
-  Place(txtLabel, 0, 1, 1, std::max(1, columns - 1));
+  Place(txtLabel, 0, 1);
 }
 
 void FuncDialog::PlaceButtonRow(int row, int columns) {

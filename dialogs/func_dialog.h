@@ -51,7 +51,7 @@ class FuncDialog : public ui::Form {
   // Refuses an empty mandatory label target: emptied, focused, beep. False when empty.
   static bool RequireLabel(ui::ComboBox& combo);
   // The standard rows of every dialog: the label on top, the buttons at the bottom.
-  void PlaceLabelRow(int columns);
+  void PlaceLabelRow();
   void PlaceButtonRow(int row, int columns);
 
  private:

@@ -24,6 +24,18 @@ bool HasVariableOf(int32_t type) {
   return false;
 }
 
+// What each function needs declared before its dialog opens, by function number.
+constexpr unsigned kNeedsVar = 1, kNeedsPath = 2, kNeedsTable = 4;
+constexpr unsigned V = kNeedsVar, P = kNeedsPath, T = kNeedsTable;
+constexpr unsigned kNeeds[kFuncCount] = {
+    V,     P,     V,     V,     0, V,         V,     V,     V,     0,      // 0 to 9
+    0,     V,     V | P, 0,     0, 0,         V | P, V | P, P,     0,      // 10 to 19
+    0,     V | P, 0,     0,     T, T,         T,     T,     T,     T,      // 20 to 29
+    T,     T,     T,     T,     T, 0,         V,     V,     T | V, T | V,  // 30 to 39
+    T,     V,     0,     0,     V, V,         V,     V,     V,     P,      // 40 to 49
+    V | P, V | P, V,     V | P, V, T | V | P,                              // 50 to 55
+};
+
 bool PathTypeDefined(int32_t letter) {
   return !FieldEmpty(View(PrgHdr.Path[0][letter - kPathExport].PathName));
 }
@@ -150,80 +162,12 @@ void GetFuncParm(int funcNo) {
   if (!IsLiveFunction(funcNo)) IllegalFunction(funcNo, "GetFuncParm");
   // A refused function leaves the editor nothing to take, whatever an earlier dialog left.
   FuncOk = false;
+  const unsigned needs = kNeeds[funcNo];
   bool ok = true;
-  switch (funcNo) {
-    case 4:
-    case 9:
-    case 10:
-    case 13:
-    case 14:
-    case 15:
-    case 19:
-    case 20:
-    case 43:
-      break;
-    case 0:
-    case 2:
-    case 3:
-    case 5:
-    case 6:
-    case 7:
-    case 8:
-    case 11:
-    case 36:
-    case 37:
-    case 41:
-    case 44:
-    case 45:
-    case 46:
-    case 47:
-    case 48:
-    case 52:
-    case 54:
-      ok = DefinedVar(true, funcNo);
-      break;
-    case 1:
-    case 18:
-    case 49:
-      ok = DefinedPath(true, funcNo);
-      break;
-    case 12:
-    case 16:
-    case 17:
-    case 21:
-    case 50:
-    case 51:
-    case 53:
-      ok = DefinedVar(true, funcNo);
-      ok = DefinedPath(true, funcNo) && ok;
-      break;
-    case 24:
-    case 25:
-    case 26:
-    case 27:
-    case 28:
-    case 29:
-    case 30:
-    case 31:
-    case 32:
-    case 33:
-    case 34:
-    case 40:
-      ok = DefinedDBTbl();
-      break;
-    case 38:
-    case 39:
-      ok = DefinedDBTbl();
-      ok = DefinedVar(true, funcNo) && ok;
-      break;
-    case 55:
-      ok = DefinedDBTbl();
-      ok = DefinedVar(true, funcNo) && ok;
-      ok = DefinedPath(true, funcNo) && ok;
-      break;
-    default:
-      IllegalFunction(funcNo, "GetFuncParm");
-  }
+  // Every check runs, in this order, so that each missing declaration is reported.
+  if (needs & kNeedsTable) ok = DefinedDBTbl() && ok;
+  if (needs & kNeedsVar) ok = DefinedVar(true, funcNo) && ok;
+  if (needs & kNeedsPath) ok = DefinedPath(true, funcNo) && ok;
   if (!ok) return;
   if (!ShowFuncDialog(funcNo)) {
     ui::platform().MsgBox("This function's dialog is not available yet.", ui::vbOKOnly, "Function");

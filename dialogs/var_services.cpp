@@ -118,6 +118,7 @@ bool AssignListBoxVar(ListControl combo, int dataType, VarRef& v) {
     SetField(v.VarRefName, Num(whole));
     return true;
   }
+  if (value == 0) value = 0;  // a typed "-0" is plain 0
   v.VarRefType = kConstDouble;
   SetField(v.VarRefName, Trim(Str(value)));
   return true;

@@ -162,7 +162,7 @@ void GetFuncRecordLength() {
   for (int i = 0; i < kFuncCount; ++i) RecordLength[i] = kCatalogueLength[i];
   for (int i = 0; i < kFuncCount; ++i) {
     if (RecordLength[i] > kBlockSize) {
-      ui::ProgramError("Too large record in procedure GetFuncRecordLength" +
+      ui::ProgramError("Too large record in procedure GetFuncRecordLength " +
                        Str(static_cast<int64_t>(RecordLength[i])) + "bytes.");
     }
   }
@@ -171,7 +171,7 @@ void GetFuncRecordLength() {
 std::string StringArithmeticOpr(int32_t op) {
   static const char* const kText[] = {" + ", " - ", " * ", " / ", " ^ ", " & "};
   if (op < 0 || op > 5) {
-    ui::ProgramError("Illegal Operator" + Str(static_cast<int64_t>(op)) +
+    ui::ProgramError("Illegal Operator " + Str(static_cast<int64_t>(op)) +
                      " in Global StringArithmeticOpr.");
   }
   return kText[op];
@@ -180,7 +180,7 @@ std::string StringArithmeticOpr(int32_t op) {
 std::string StringRelationalOpr(int32_t op) {
   static const char* const kText[] = {" = ", " <> ", " < ", " > ", " <= ", " >= "};
   if (op < 0 || op > 5) {
-    ui::ProgramError("Illegal operator" + Str(static_cast<int64_t>(op)) +
+    ui::ProgramError("Illegal operator " + Str(static_cast<int64_t>(op)) +
                      " in Global StringRelationalOpr.");
   }
   return kText[op];

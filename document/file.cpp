@@ -174,7 +174,12 @@ void OpenFile(std::string& title, std::string& fileName) {
     Untitled(title, fileName);
     return;
   }
+  OpenFileBytes(title, fileName, bytes);
+}
 
+void OpenFileBytes(std::string& title, std::string& fileName, const std::vector<uint8_t>& bytes) {
+  ui::Platform& p = ui::platform();
+  p.SetMousePointer(ui::vbHourglass);
   KqxImage image;
   switch (CheckImage(bytes.data(), bytes.size(), image)) {
     case KqxCheck::Ok:

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace kq {
 
@@ -20,5 +21,10 @@ void OpenFile(std::string& title, std::string& fileName);
 
 // Merges the file's declarations and lines into the document before line `position`.
 void InsertFile(std::string& title, std::string& fileName, int position);
+
+// The same two commands on the bytes of a file already read (the fuzz targets and tests
+// feed them directly).
+void OpenFileBytes(std::string& title, std::string& fileName, const std::vector<uint8_t>& bytes);
+void InsertFileBytes(std::string& title, const std::vector<uint8_t>& bytes, int position);
 
 }  // namespace kq

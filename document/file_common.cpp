@@ -17,6 +17,14 @@ bool ReadFileForCommand(const std::string& title, const std::string& path,
   }
 }
 
+Hourglass::Hourglass() {
+  ui::platform().SetMousePointer(ui::vbHourglass);
+}
+
+Hourglass::~Hourglass() {
+  ui::platform().SetMousePointer(ui::vbDefault);
+}
+
 void FileErrorBox(const std::string& text) {
   ui::platform().MsgBox(text, ui::vbOKOnly | ui::vbExclamation, "File Error");
 }

@@ -18,6 +18,14 @@ void FileErrorBox(const std::string& text);
 // Replaces the first four characters of a DisplayLine by the number as four digits.
 void SetLineNumber(std::string& displayLine, int number);
 
+// The hourglass for the life of a command, the default pointer after it.
+struct Hourglass {
+  Hourglass();
+  ~Hourglass();
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+};
+
 // A retried statement gives up after this many attempts in a row, so that a platform
 // answering Retry by itself cannot hold the program forever.
 inline constexpr int kMaxRetries = 100;

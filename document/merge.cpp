@@ -15,6 +15,7 @@
 #include "document/byte_reader.h"
 #include "document/disk_error.h"
 #include "document/document.h"
+#include "document/field_empty.h"
 #include "document/file.h"
 #include "document/file_common.h"
 #include "document/kqx_format.h"
@@ -28,11 +29,11 @@ namespace kq {
 namespace {
 
 bool Named(const VarRef& v) {
-  return !FieldEmpty(View(v.VarRefName));
+  return !EmptyField(v.VarRefName);
 }
 template <size_t N>
 bool Named(const char (&field)[N]) {
-  return !FieldEmpty(View(field));
+  return !EmptyField(field);
 }
 template <size_t N>
 bool SameField(const char (&a)[N], const char (&b)[N]) {
@@ -48,11 +49,19 @@ std::string DataTypeName(int32_t type) {
   return RTrim(Row(DataTypeNames[type]));
 }
 
+// Which of the document's variables have a name, worked out once per command: the
+// checks compare every pair of the two tables.
+struct NamedVariables {
+  bool named[kMaxVariables];
+  NamedVariables() {
+    for (int i = 0; i < kMaxVariables; ++i) named[i] = Named(PrgHdr.Variable[i]);
+  }
+};
+
 // The document's entry with the same name, or -1.
-int FindVariable(const VarRef& v) {
+int FindVariable(const NamedVariables& doc, const VarRef& v) {
   for (int i = 0; i < kMaxVariables; ++i) {
-    const VarRef& d = PrgHdr.Variable[i];
-    if (Named(d) && SameField(d.VarRefName, v.VarRefName)) return i;
+    if (doc.named[i] && SameField(PrgHdr.Variable[i].VarRefName, v.VarRefName)) return i;
   }
   return -1;
 }
@@ -73,10 +82,12 @@ int FindTable(const TableEntry& t) {
 
 // Steps 4 to 9: every refusal of the declarations, in order. False after a box.
 bool DeclarationsMerge() {
+  const NamedVariables doc;
   for (const VarRef& c : CopyHdr.Variable) {
     if (!Named(c)) continue;
-    for (const VarRef& d : PrgHdr.Variable) {
-      if (Named(d) && SameField(d.VarRefName, c.VarRefName) && d.VarRefType != c.VarRefType) {
+    for (int i = 0; i < kMaxVariables; ++i) {
+      const VarRef& d = PrgHdr.Variable[i];
+      if (doc.named[i] && SameField(d.VarRefName, c.VarRefName) && d.VarRefType != c.VarRefType) {
         Refuse("Variable " + Text(c.VarRefName) + " is defined as " + DataTypeName(d.VarRefType) +
                    " and " + DataTypeName(c.VarRefType) + " respectively.",
                "Variable Error");
@@ -86,8 +97,10 @@ bool DeclarationsMerge() {
   }
 
   int variables = 0;
-  for (const VarRef& d : PrgHdr.Variable) variables += Named(d) ? 1 : 0;
-  for (const VarRef& c : CopyHdr.Variable) variables += Named(c) && FindVariable(c) < 0 ? 1 : 0;
+  for (bool named : doc.named) variables += named ? 1 : 0;
+  for (const VarRef& c : CopyHdr.Variable) {
+    variables += Named(c) && FindVariable(doc, c) < 0 ? 1 : 0;
+  }
   if (variables > kMaxVariables) {
     Refuse("Exceeded maximum number of allowed variables, which are" + Str(int64_t{kMaxVariables}) +
                ".",
@@ -151,14 +164,14 @@ bool DeclarationsMerge() {
 
 // Steps 10 to 12: new declarations go to the first free entries; nothing is re-sorted.
 void MergeDeclarations() {
+  NamedVariables doc;
+  int free = 0;
   for (const VarRef& c : CopyHdr.Variable) {
-    if (!Named(c) || FindVariable(c) >= 0) continue;
-    for (VarRef& d : PrgHdr.Variable) {
-      if (!Named(d)) {
-        d = c;
-        break;
-      }
-    }
+    if (!Named(c) || FindVariable(doc, c) >= 0) continue;
+    while (free < kMaxVariables && doc.named[free]) ++free;
+    if (free == kMaxVariables) break;  // cannot happen: the count was checked
+    PrgHdr.Variable[free] = c;
+    doc.named[free] = true;
   }
   for (int t = 0; t < kPathTypes; ++t) {
     for (int r = 0; r < kPathRows; ++r) {
@@ -266,15 +279,15 @@ void StagePartPaths(int firstLine, int lastLine) {
 }
 
 void InsertFile(std::string& title, std::string& fileName, int position) {
-  ui::Platform& p = ui::platform();
-  p.SetMousePointer(ui::vbHourglass);
-  struct RestorePointer {
-    ui::Platform& p;
-    ~RestorePointer() { p.SetMousePointer(ui::vbDefault); }
-  } restore{p};
+  const Hourglass hourglass;
 
   std::vector<uint8_t> bytes;
   if (!ReadFileForCommand("Insert", fileName, bytes)) return;
+  InsertFileBytes(title, bytes, position);
+}
+
+void InsertFileBytes(std::string& title, const std::vector<uint8_t>& bytes, int position) {
+  const Hourglass hourglass;
 
   KqxImage image;
   const KqxCheck check = CheckImage(bytes.data(), bytes.size(), image);

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "document/document.h"
+#include "document/field_empty.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "ui/platform/platform.h"
@@ -25,7 +26,7 @@ bool LoadWorkRecord(int line, int funcNo) {
 }
 
 bool Named(const VarRef& v) {
-  return !FieldEmpty(View(v.VarRefName));
+  return !EmptyField(v.VarRefName);
 }
 
 bool Eq(const VarRef& a, const VarRef& v) {

@@ -61,7 +61,9 @@ std::string Num(int64_t n) {
 }
 
 std::string Str(int64_t n) {
-  return n < 0 ? std::to_string(n) : " " + std::to_string(n);
+  char buf[24];
+  std::snprintf(buf, sizeof buf, n < 0 ? "%lld" : " %lld", static_cast<long long>(n));
+  return buf;
 }
 
 std::string Str(double d) {
@@ -71,15 +73,18 @@ std::string Str(double d) {
   return d < 0 ? s : " " + s;
 }
 
+// A negative number keeps all its digit places behind the sign: -1 gives "-0001".
 std::string Format0000(int64_t n) {
   char buf[24];
-  std::snprintf(buf, sizeof buf, "%04lld", static_cast<long long>(n));
+  std::snprintf(buf, sizeof buf, n < 0 ? "-%04lld" : "%04lld",
+                static_cast<long long>(n < 0 ? -n : n));
   return buf;
 }
 
 std::string Format000(int64_t n) {
   char buf[24];
-  std::snprintf(buf, sizeof buf, "%03lld", static_cast<long long>(n));
+  std::snprintf(buf, sizeof buf, n < 0 ? "-%03lld" : "%03lld",
+                static_cast<long long>(n < 0 ? -n : n));
   return buf;
 }
 

@@ -3,10 +3,13 @@
 #include <cstring>
 #include <string>
 
+#include "document/document.h"
 #include "document/state.h"
 #include "document/text.h"
+#include "editor/commands.h"
 #include "editor/compile_index.h"
 #include "editor/record_view.h"
+#include "editor/select_line.h"
 #include "ui/model/list_controls.h"
 #include "ui/platform/platform.h"
 
@@ -21,7 +24,7 @@ int LineCount() {
 }
 
 void ShowFault(int line, const std::string& text, const char* title = kCompilationError) {
-  SelectFaultyLine(line);
+  SelectOnlyLine(line);
   ui::platform().MsgBox(text, ui::vbExclamation | ui::vbOKOnly, title);
 }
 
@@ -30,11 +33,6 @@ RecordView LoadRecord(int line, int funcNo) {
   uint8_t* work = WorkRecord.Image(funcNo);
   std::memcpy(work, FuncBlock[line], static_cast<size_t>(RecordLength[funcNo]));
   return RecordView(work);
-}
-
-// Writes the function's WorkRecord back into the line's block (UpdateFuncParm).
-void StoreRecord(int line, int funcNo) {
-  std::memcpy(FuncBlock[line], WorkRecord.Image(funcNo), static_cast<size_t>(RecordLength[funcNo]));
 }
 
 VarRef VarAt(const RecordView& rec, int offset) {
@@ -137,6 +135,9 @@ bool LineVariablesDefined(const VariableIndex& vars, int line, int f) {
       return check(LoadRecord(line, f), {36});
     case 44:
       return check(LoadRecord(line, f), {4, 36});
+    case 50:
+    case 51:
+      return check(LoadRecord(line, f), {32});
     case 54:  // the fifth bus variable, at 128, is not checked
       return check(LoadRecord(line, f), {0, 32, 64, 96});
     case 55: {
@@ -374,17 +375,11 @@ bool ResolveLine(const LabelIndex& labels, int line, int f) {
     default:
       IllegalFunctionNoNumber("UpdateLabels.");
   }
-  if (ok) StoreRecord(line, f);
+  if (ok) UpdateFuncParm(line, f);
   return ok;
 }
 
 }  // namespace
-
-void SelectFaultyLine(int line) {
-  ui::ListBox& list = EditList();
-  for (int i : list.SelectedIndexes()) list.SetSelected(i, false);
-  list.SetSelected(line, true);
-}
 
 bool DefinedVarMsgFunc(const VariableIndex& vars, int line, const VarRef& ref) {
   if (IsConstantType(ref.VarRefType)) return true;
@@ -501,8 +496,8 @@ bool DuplicatedLabels() {
   const LabelIndex labels(LineCount());
   int i = 0, j = 0;
   if (!labels.FirstDuplicate(i, j)) return false;
-  ShowFault(i, "Label '" + Text(LineTable[i].LineLabel) + "' duplicated in line" + Str(int64_t{i}) + " and" +
-                   Str(int64_t{j}));
+  ShowFault(i, "Label '" + Text(LineTable[i].LineLabel) + "' duplicated in line" + Str(int64_t{i}) +
+                   " and" + Str(int64_t{j}));
   return true;
 }
 
@@ -523,7 +518,8 @@ bool Compile() {
       !UndefinedDatabaseTables() && !DuplicatedLabels() && UpdateLabels()) {
     result = true;
     p.SetMousePointer(ui::vbDefault);
-    p.MsgBox("Successfully compilation...", ui::vbExclamation | ui::vbOKOnly, "Compile Information");
+    p.MsgBox("Successfully compilation...", ui::vbExclamation | ui::vbOKOnly,
+             "Compile Information");
   }
   p.SetMousePointer(ui::vbDefault);
   return result;

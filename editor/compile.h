@@ -37,7 +37,4 @@ bool DefinedTableMsgFunc(int line, std::string_view table16);
 // The last line that carries the label; false (and the fault shown) when none does.
 bool GetLineNo(const LabelIndex& labels, std::string_view label16, int32_t& lineNo, int line);
 
-// Deselects every line of the edit list and selects the given one.
-void SelectFaultyLine(int line);
-
 }  // namespace kq

@@ -21,13 +21,11 @@ namespace {
 // stores keep room for the line behind the last.
 constexpr int kMaxListLines = kUserLines + 1;
 
-// The ProgramLine that the hand-over fields make.
-ProgramLine HandOverLine() {
-  ProgramLine line;
-  AssignField(line.LineLabel, FuncLabel);
-  line.LineFuncNo = FuncNo;
-  AssignField(line.LineFuncName, FuncName);
-  return line;
+// The line table entry takes the ProgramLine of the hand-over fields.
+void TakeHandOverLine(ProgramLine& entry) {
+  AssignField(entry.LineLabel, FuncLabel);
+  entry.LineFuncNo = FuncNo;
+  AssignField(entry.LineFuncName, FuncName);
 }
 
 void MarkEdited() {
@@ -96,7 +94,7 @@ void InsertLineInStores(ui::ListBox& list, int k) {
     LineTable[i] = LineTable[i - 1];
     CopyFuncParm(i, i - 1, LineTable[i].LineFuncNo);
   }
-  LineTable[k] = HandOverLine();
+  TakeHandOverLine(LineTable[k]);
   UpdateFuncParm(k, FuncNo);
 }
 
@@ -142,10 +140,9 @@ int DeleteSelectedFromStores(ui::ListBox& list) {
     return 0;
   }
   const int first = deleted.front();
+  if (n > kMaxListLines) return DeleteSelectedLiterally(list);
   for (int i = first; i < n; ++i) {
-    if (!IsLiveFunction(LineTable[i].LineFuncNo) || n > kMaxListLines) {
-      return DeleteSelectedLiterally(list);
-    }
+    if (!IsLiveFunction(LineTable[i].LineFuncNo)) return DeleteSelectedLiterally(list);
   }
 
   std::vector<char> isDeleted(static_cast<size_t>(n), 0);
@@ -252,7 +249,7 @@ void AddLine(FrmEdit& form) {
   form.mnuGoto.SetEnabled(true);
   form.mnuCompile.SetEnabled(true);
   form.mnuPrint.SetEnabled(true);
-  LineTable[n] = HandOverLine();
+  TakeHandOverLine(LineTable[n]);
   UpdateFuncParm(n, FuncNo);
 }
 
@@ -297,7 +294,7 @@ void ModifyLine(FrmEdit& form) {
   list.AddItem(Format0000(k) + FuncLine, k);
   DeselectListBox(list);
   list.SetSelected(k, true);
-  LineTable[k] = HandOverLine();
+  TakeHandOverLine(LineTable[k]);
   UpdateFuncParm(k, FuncNo);
 }
 

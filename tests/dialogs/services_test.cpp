@@ -70,6 +70,43 @@ TEST_F(ServicesTest, PrototypeChecksTableThenVariableThenPath) {
   EXPECT_EQ(p.EventsOf("msgbox")[0].fields["title"].Str(), "Database table name Define Error");
 }
 
+TEST_F(ServicesTest, EveryLiveFunctionRunsTheChecksOfItsRow) {
+  const std::string var = "Variable Define Error", path = "Path Variable Define Error",
+                    table = "Database table name Define Error";
+  struct Row {
+    std::vector<int> functions;
+    std::vector<std::string> titles;
+  };
+  const std::vector<Row> rows = {
+      {{4, 9, 10, 13, 14, 15, 19, 20, 43}, {}},
+      {{0, 2, 3, 5, 6, 7, 8, 11, 36, 37, 41, 44, 45, 46, 47, 48, 52, 54}, {var}},
+      {{1, 18, 49}, {path}},
+      {{12, 16, 17, 21, 50, 51, 53}, {var, path}},
+      {{24, 25, 26, 27, 28, 29, 30, 31, 32, 33, 34, 40}, {table}},
+      {{38, 39}, {table, var}},
+      {{55}, {table, var, path}},
+  };
+  p.modalDriver = [](ui::Form& f) { f.Unload(); };  // a dialog that opens is closed
+  int covered = 0;
+  for (const Row& row : rows) {
+    for (const int n : row.functions) {
+      p.ClearEvents();
+      PrepareNew(n);
+      kq::GetFuncParm(n);
+      std::vector<std::string> titles;
+      for (const auto& e : p.EventsOf("msgbox")) {
+        if (e.fields["title"].Str() != "Function") titles.push_back(e.fields["title"].Str());
+      }
+      EXPECT_EQ(titles, row.titles) << "function " << n;
+      EXPECT_EQ(p.CountOf("show") + p.CountOf("msgbox") - static_cast<int>(titles.size()),
+                titles.empty() ? 1 : 0)
+          << "function " << n << ": the dialog opens exactly when nothing is missing";
+      ++covered;
+    }
+  }
+  EXPECT_EQ(covered, 52);
+}
+
 TEST_F(ServicesTest, OnlyTheMissingDeclarationIsReported) {
   AddVariable("Name", kq::kVarString);
   kq::GetFuncParm(21);
@@ -176,6 +213,9 @@ TEST_F(ServicesTest, AssignListBoxVarDoubleAndStringConstants) {
   host.cbo.SetText("-2.25");
   EXPECT_TRUE(kq::AssignListBoxVar(host.cbo, kq::kVarDouble, v));
   EXPECT_EQ(Bytes(v), Bytes(Var(kq::kConstDouble, "-2.25")));
+  host.cbo.SetText("-0");
+  EXPECT_TRUE(kq::AssignListBoxVar(host.cbo, kq::kVarDouble, v));
+  EXPECT_EQ(Bytes(v), Bytes(Var(kq::kConstDouble, "0")));
   host.cbo.SetText("");
   EXPECT_FALSE(kq::AssignListBoxVar(host.cbo, kq::kVarDouble, v));
   EXPECT_TRUE(kq::AssignListBoxVar(host.cbo, kq::kVarString, v));  // a valid empty constant

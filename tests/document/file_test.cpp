@@ -81,8 +81,13 @@ TEST_F(FileTest, SaveWritesTheHeaderFieldsInOrderAndClearsChanged) {
   kqtest::AddLine(4, "Start", 1);
   ChangedFlag = true;
   std::string recent;
-  Shell.addRecentFile = [&](const std::string& p) { recent = p; };
+  int pointerDuringSave = -1;
+  Shell.addRecentFile = [&](const std::string& p) {
+    recent = p;
+    pointerDuringSave = platform_.MousePointer();
+  };
   kqtest::SaveAll(TempPath("h.kqx"));
+  EXPECT_EQ(pointerDuringSave, 11);
   const auto b = ReadBytes(TempPath("h.kqx"));
   ASSERT_EQ(b.size(), kHeader + 180 + 35 + 4);
   EXPECT_EQ(b[5], 0xFF);
@@ -108,7 +113,11 @@ TEST_F(FileTest, OpenSelectsTheFirstLineAndTellsTheShell) {
   kqtest::SaveAll(TempPath("x.kqx"));
   list().Clear();
   int opened = 0;
-  Shell.fileOpened = [&] { ++opened; };
+  Shell.fileOpened = [&] {
+    ++opened;
+    EXPECT_EQ(platform_.MousePointer(), 11);
+    EXPECT_EQ(list().ListIndex(), -1);  // the first line is selected after the shell's turn
+  };
   ChangedFlag = true;
   kqtest::Open(TempPath("x.kqx"));
   EXPECT_EQ(opened, 1);

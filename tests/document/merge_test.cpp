@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <filesystem>
 
 #include "document/catalogue.h"
 #include "document/document.h"
@@ -247,6 +248,7 @@ TEST_F(MergeTest, FilesThatCannotBeInserted) {
   const Snapshot before = Snapshot::Take();
   Insert(TempPath("none.kqx"), 0, "none.kqx");
   EXPECT_EQ(LastBox(), "File none.kqx doesn't exist.");
+  EXPECT_TRUE(std::filesystem::exists(TempPath("none.kqx")));  // the open made it
 
   std::vector<uint8_t> old(84009, 0);
   std::memcpy(old.data(), "3.09", 5);
@@ -263,6 +265,18 @@ TEST_F(MergeTest, FilesThatCannotBeInserted) {
   Insert(TempPath("cut.kqx"), 0, "cut.kqx");
   EXPECT_EQ(LastBox(), "File cut.kqx is damaged.");
   EXPECT_TRUE(Snapshot::Take() == before);
+}
+
+TEST_F(MergeTest, AnIllegalNumberInTheInsertedFileEndsTheProgram) {
+  kqtest::AddLine(4, "", 1);
+  const std::string part = MakePart("p.kqx");
+  auto bytes = kqtest::ReadBytes(part);
+  const int16_t bad = 22;
+  std::memcpy(&bytes[84009 + 180 + 16], &bad, 2);
+  kqtest::WriteBytes(part, bytes);
+  kqtest::AddLine(13, "", 1);
+  EXPECT_THROW(Insert(part, 0), ui::ProgramEnded);
+  EXPECT_EQ(LastBox(), "Illegal Function Number  22 in Global InsertFile.");
 }
 
 TEST_F(MergeTest, TooManyLinesEndTheCommandWithoutABox) {

@@ -71,7 +71,8 @@ TEST_F(CompileEquivalenceTest, SameFaultsMessagesSelectionAndBytes) {
     options.faultRate = (round % 3 == 0) ? 0.0 : (round % 3 == 1 ? 0.01 : 0.06);
     options.illegalRate = round % 7 == 0 ? 0.01 : 0.0;
     BuildRandomDocument(list(), rng, options);
-    if (rng() % 2) list().SetSelected(static_cast<int>(rng() % static_cast<unsigned>(Lines())), true);
+    if (rng() % 2)
+      list().SetSelected(static_cast<int>(rng() % static_cast<unsigned>(Lines())), true);
     const Snapshot before = Take();
     platform.ClearEvents();
     const Outcome indexed = Run(&Compile);

@@ -91,7 +91,8 @@ bool DefVarDB(std::string_view table, int column, const VarRef& v) {
     case 2:
       if (VarDefinedWalk(v)) return true;
       ui::platform().MsgBox("Variable '" + RTrimZ(View(v.VarRefName)) + "' in database '" +
-                                RTrimZ(table) + "' column" + Str(int64_t{column}) + " is not defined.",
+                                RTrimZ(table) + "' column" + Str(int64_t{column}) +
+                                " is not defined.",
                             48, "Compilation Error");
       return false;
     case 8:
@@ -126,7 +127,8 @@ bool DefTable(int line, std::string_view name) {
     if (!FieldEmpty(View(e.TableName)) && RTrim(View(e.TableName)) == RTrim(name)) found = true;
   }
   if (found) return true;
-  Fault(line, "Database table name '" + RTrimZ(name) + "' in line" + Str(int64_t{line}) + " is not defined.");
+  Fault(line, "Database table name '" + RTrimZ(name) + "' in line" + Str(int64_t{line}) +
+                  " is not defined.");
   return false;
 }
 
@@ -151,20 +153,49 @@ struct VarRule {
 
 std::vector<int> VarOffsets(int f) {
   switch (f) {
-    case 0: return {0, 32};
-    case 2: return {0, 32, 64};
-    case 3: return {0, 32};
-    case 5: return {148};
-    case 6: case 8: case 36: case 52: return {4};
-    case 7: case 11: case 16: case 37: case 41: return {0};
-    case 12: case 21: case 53: return {28};
-    case 38: case 39: return {36};
-    case 44: return {4, 36};
-    case 45: return {0, 32};
-    case 46: case 47: case 48: return {0, 32, 64};
-    case 54: return {0, 32, 64, 96};
-    case 55: return {64, 96, 128, 160, 192, 224, 256, 288};
-    default: return {};
+    case 0:
+      return {0, 32};
+    case 2:
+      return {0, 32, 64};
+    case 3:
+      return {0, 32};
+    case 5:
+      return {148};
+    case 6:
+    case 8:
+    case 36:
+    case 52:
+      return {4};
+    case 7:
+    case 11:
+    case 16:
+    case 37:
+    case 41:
+      return {0};
+    case 12:
+    case 21:
+    case 53:
+      return {28};
+    case 38:
+    case 39:
+      return {36};
+    case 44:
+      return {4, 36};
+    case 45:
+      return {0, 32};
+    case 46:
+    case 47:
+    case 48:
+      return {0, 32, 64};
+    case 50:
+    case 51:
+      return {32};
+    case 54:
+      return {0, 32, 64, 96};
+    case 55:
+      return {64, 96, 128, 160, 192, 224, 256, 288};
+    default:
+      return {};
   }
 }
 
@@ -180,7 +211,8 @@ bool PassVariables() {
   for (int line = 0; line < Count(); ++line) {
     const int f = LineTable[line].LineFuncNo;
     if (f < 0 || f > 55) {
-      ui::ProgramError("Illegal Function Number" + Str(int64_t{f}) + " in frmEdit - UnDefinedMsgVariables");
+      ui::ProgramError("Illegal Function Number" + Str(int64_t{f}) +
+                       " in frmEdit - UnDefinedMsgVariables");
     }
     if (f == 17) {
       const uint8_t* r = Load(line, f);
@@ -222,28 +254,51 @@ bool PassPaths() {
   for (int line = 0; line < Count(); ++line) {
     const int f = LineTable[line].LineFuncNo;
     if (f < 0 || f > 55) {
-      ui::ProgramError("Illegal Function Number" + Str(int64_t{f}) + " in frmEdit - UnDefinedPathMsgVariables");
+      ui::ProgramError("Illegal Function Number" + Str(int64_t{f}) +
+                       " in frmEdit - UnDefinedPathMsgVariables");
     }
     std::vector<std::pair<int32_t, int>> checks;  // type, offset
     const uint8_t* r = nullptr;
     switch (f) {
-      case 1: r = Load(line, f); checks = {{I32(r, 0), 4}, {I32(r, 0), 32}}; break;
-      case 12: case 21: r = Load(line, f); checks = {{66, 0}}; break;
+      case 1:
+        r = Load(line, f);
+        checks = {{I32(r, 0), 4}, {I32(r, 0), 32}};
+        break;
+      case 12:
+      case 21:
+        r = Load(line, f);
+        checks = {{66, 0}};
+        break;
       case 16:
         r = Load(line, f);
         if (I32(r, 60) != 0) checks.push_back({68, 68});
         if (I32(r, 64) != 0) checks.push_back({68, 96});
         checks.push_back({67, 124});
         break;
-      case 17: r = Load(line, f); checks = {{65, 808}}; break;
-      case 18: r = Load(line, f); checks = {{68, 0}}; break;
-      case 49: case 50: case 51: r = Load(line, f); checks = {{I32(r, 0), 4}}; break;
-      case 53: r = Load(line, f); checks = {{69, 0}}; break;
+      case 17:
+        r = Load(line, f);
+        checks = {{65, 808}};
+        break;
+      case 18:
+        r = Load(line, f);
+        checks = {{68, 0}};
+        break;
+      case 49:
+      case 50:
+      case 51:
+        r = Load(line, f);
+        checks = {{I32(r, 0), 4}};
+        break;
+      case 53:
+        r = Load(line, f);
+        checks = {{69, 0}};
+        break;
       case 55:
         r = Load(line, f);
         for (int i = 0; i <= 3; ++i) checks.push_back({I32(r, 480), 484 + 28 * i});
         break;
-      default: break;
+      default:
+        break;
     }
     for (auto [type, o] : checks) {
       if (!DefPath(line, type, Fld(r, o, 28))) return true;
@@ -285,8 +340,8 @@ bool PassDuplicates() {
     for (int j = i + 1; j < Count(); ++j) {
       if (View(LineTable[i].LineLabel) == View(LineTable[j].LineLabel) &&
           !FieldEmpty(View(LineTable[i].LineLabel))) {
-        Fault(i, "Label '" + RTrimZ(View(LineTable[i].LineLabel)) + "' duplicated in line" + Str(int64_t{i}) +
-                     " and" + Str(int64_t{j}));
+        Fault(i, "Label '" + RTrimZ(View(LineTable[i].LineLabel)) + "' duplicated in line" +
+                     Str(int64_t{i}) + " and" + Str(int64_t{j}));
         return true;
       }
     }
@@ -296,25 +351,55 @@ bool PassDuplicates() {
 
 std::vector<int> RefOffsets(int f) {
   switch (f) {
-    case 0: return {64};
-    case 2: return {100};
-    case 7: return {44, 64, 84};
-    case 9: return {0, 20};
-    case 10: return {0};
-    case 12: return {88, 108, 128};
-    case 14: return {4};
-    case 16: return {40};
-    case 17: return {868};
-    case 18: return {112, 132};
-    case 19: return {16};
-    case 21: return {72, 92};
-    case 24: return {20, 40};
-    case 25: case 26: case 27: case 29: case 30: case 34: case 38: case 39: case 40: return {16};
-    case 28: case 31: case 32: case 33: return {16, 36};
-    case 37: return {36, 56};
-    case 53: return {96};
-    case 54: return {164};
-    default: return {};
+    case 0:
+      return {64};
+    case 2:
+      return {100};
+    case 7:
+      return {44, 64, 84};
+    case 9:
+      return {0, 20};
+    case 10:
+      return {0};
+    case 12:
+      return {88, 108, 128};
+    case 14:
+      return {4};
+    case 16:
+      return {40};
+    case 17:
+      return {868};
+    case 18:
+      return {112, 132};
+    case 19:
+      return {16};
+    case 21:
+      return {72, 92};
+    case 24:
+      return {20, 40};
+    case 25:
+    case 26:
+    case 27:
+    case 29:
+    case 30:
+    case 34:
+    case 38:
+    case 39:
+    case 40:
+      return {16};
+    case 28:
+    case 31:
+    case 32:
+    case 33:
+      return {16, 36};
+    case 37:
+      return {36, 56};
+    case 53:
+      return {96};
+    case 54:
+      return {164};
+    default:
+      return {};
   }
 }
 
@@ -341,8 +426,9 @@ bool PassLabels() {
       continue;
     }
     if (f == 5 || f == 20 || f == 55) {
-      const ArrayRule a = f == 5 ? ArrayRule{0, 112, 7} : f == 20 ? ArrayRule{0, 304, 19}
-                                                                  : ArrayRule{320, 448, 8};
+      const ArrayRule a = f == 5    ? ArrayRule{0, 112, 7}
+                          : f == 20 ? ArrayRule{0, 304, 19}
+                                    : ArrayRule{320, 448, 8};
       uint8_t* r = Load(line, f);
       for (int i = 0; i < a.entries; ++i) {
         if (FieldEmpty(Fld(r, a.names + 16 * i, 16))) continue;

@@ -1,38 +1,15 @@
 #include "tests/editor/doc_builder.h"
 
 #include "document/catalogue.h"
+#include "document/document.h"
 #include "tests/editor/record_layouts.h"
 
 namespace kq::test {
 
-namespace {
-
-void BlankVar(VarRef& v) {
-  v.VarRefType = kVarNone;
-  SetField(v.VarRefName, "");
-}
-
-}  // namespace
-
 void ResetDocument() {
   InitNameTables();
   GetFuncRecordLength();
-  std::memset(&PrgHdr, 0, sizeof PrgHdr);
-  std::memcpy(PrgHdr.Version, "3.10", 5);
-  for (VarRef& v : PrgHdr.Variable) BlankVar(v);
-  for (auto& row : PrgHdr.Path) {
-    for (PathEntry& e : row) {
-      SetField(e.PathText, "");
-      SetField(e.PathName, "");
-    }
-  }
-  for (TableEntry& t : PrgHdr.Table) {
-    SetField(t.TableName, "");
-    for (VarRef& c : t.Column) BlankVar(c);
-  }
-  PrgHdr.CompiledFlag = 0;
-  PrgHdr.LineCount = 0;
-  ChangedFlag = false;
+  InitDocument();
   std::memset(&WorkRecord, 0, sizeof WorkRecord);
 }
 

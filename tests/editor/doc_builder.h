@@ -20,7 +20,8 @@ namespace kq::test {
 // A form that holds the edit list, as the main window does.
 class EditHost : public ui::Form {
  public:
-  EditHost() : ui::Form("frmEdit", "Zelvox Voice Response Editor: Untitled"), lstEdit(*this, "lstEdit") {
+  EditHost()
+      : ui::Form("frmEdit", "Zelvox Voice Response Editor: Untitled"), lstEdit(*this, "lstEdit") {
     lstEdit.SetMultiSelect(ui::ListBox::MultiSelect::Extended);
   }
   ui::ListBox lstEdit;

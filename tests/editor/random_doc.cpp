@@ -20,7 +20,9 @@ struct Gen {
   std::vector<std::string> labels;  // the labels that lines carry
   bool Chance(double p) { return std::uniform_real_distribution<double>(0, 1)(rng) < p; }
   int Pick(int n) { return std::uniform_int_distribution<int>(0, n - 1)(rng); }
-  const std::string& Name() { return kNames[static_cast<size_t>(Pick(static_cast<int>(kNames.size())))]; }
+  const std::string& Name() {
+    return kNames[static_cast<size_t>(Pick(static_cast<int>(kNames.size())))];
+  }
 
   void Var(Rec& r, int offset) {
     if (Chance(o.illegalRate)) {
@@ -115,7 +117,8 @@ void BuildRandomDocument(ui::ListBox& list, std::mt19937& rng, const RandomDocOp
     DeclareTable(t * 5, "T" + std::to_string(t));
     for (int c = 0; c < 4; ++c) {
       const int i = g.Pick(static_cast<int>(kNames.size()));
-      DeclareColumn(t * 5, c, i % 3, g.Chance(options.faultRate) ? "Gone" : kNames[static_cast<size_t>(i)]);
+      DeclareColumn(t * 5, c, i % 3,
+                    g.Chance(options.faultRate) ? "Gone" : kNames[static_cast<size_t>(i)]);
     }
   }
   const int lines = 1 + g.Pick(options.maxLines);

@@ -6,13 +6,27 @@ namespace kq::test {
 
 namespace {
 using F = FieldSpec;
-F V(int o, int n = 1) { return {F::Var, o, n}; }
-F L(int o) { return {F::LabelRef, o}; }
-F LA(int o, int n, int lines) { return {F::LabelArray, o, n, 16, lines}; }
-F T(int o, int w, int n = 1) { return {F::Text, o, n, w}; }
-F N(int o, int n = 1) { return {F::Number, o, n}; }
-F P(int o) { return {F::PathType, o}; }
-F G(int o, int n = 1) { return {F::Flag, o, n}; }
+F V(int o, int n = 1) {
+  return {F::Var, o, n};
+}
+F L(int o) {
+  return {F::LabelRef, o};
+}
+F LA(int o, int n, int lines) {
+  return {F::LabelArray, o, n, 16, lines};
+}
+F T(int o, int w, int n = 1) {
+  return {F::Text, o, n, w};
+}
+F N(int o, int n = 1) {
+  return {F::Number, o, n};
+}
+F P(int o) {
+  return {F::PathType, o};
+}
+F G(int o, int n = 1) {
+  return {F::Flag, o, n};
+}
 
 const std::map<int, std::vector<F>>& Table() {
   static const std::map<int, std::vector<F>> t = {

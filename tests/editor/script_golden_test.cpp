@@ -71,7 +71,7 @@ TEST_P(ScriptGolden, EventsMatchExpected) {
   options.settingsFile = settings.string();
   options.dataDir = homeText;
   options.homeDir = homeText;
-  const int status = ui::RunScript(in, out, options, kq::cli::EditorScriptHooks());
+  const int status = ui::RunScript(in, out, options, kqx::EditorScriptHooks());
 
   std::string actual = out.str();
   actual += "{\"exit\":" + std::to_string(status) + "}\n";

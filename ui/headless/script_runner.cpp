@@ -196,6 +196,7 @@ Json ControlState(const Control& c) {
   }
   j.Set("enabled", c.Enabled());
   j.Set("visible", c.Visible());
+  if (c.Kind() == ControlKind::Menu) j.Set("checked", static_cast<const Menu&>(c).Checked());
   if (c.Kind() == ControlKind::ComboBox) {
     const auto& cb = static_cast<const ComboBox&>(c);
     j.Set("ListIndex", cb.ListIndex());
@@ -230,6 +231,8 @@ class Runner {
   int Run(std::istream& script) {
     std::string line;
     while (std::getline(script, line)) lines_.push_back(line);
+    // A byte order mark that an editor put in front of the first line is not part of it.
+    if (!lines_.empty() && lines_[0].rfind("\xEF\xBB\xBF", 0) == 0) lines_[0].erase(0, 3);
     p_.modalDriver = [this](Form& form) { RunUntilUnloaded(&form); };
     int status = kScriptOk;
     try {

@@ -1,0 +1,15 @@
+// The command functions of kqx.
+#pragma once
+
+#include "cli/kqx.h"
+
+namespace kqx {
+
+int CmdInfo(CliContext& ctx);
+int CmdLines(CliContext& ctx);
+int CmdResave(CliContext& ctx);
+int CmdCompile(CliContext& ctx);
+int CmdList(CliContext& ctx);
+int CmdScript(CliContext& ctx);
+
+}  // namespace kqx

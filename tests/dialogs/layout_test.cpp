@@ -1,0 +1,64 @@
+// Every form declares a layout from which the desktop binding builds it: each control a
+// person uses has a place, and no two share a cell.
+#include <memory>
+#include <set>
+
+#include "dialogs/frm_condition.h"
+#include "dialogs/frm_def_var.h"
+#include "dialogs/frm_delay.h"
+#include "dialogs/frm_func.h"
+#include "dialogs/frm_gosub.h"
+#include "dialogs/frm_goto.h"
+#include "dialogs/frm_random.h"
+#include "dialogs/frm_remark.h"
+#include "dialogs/frm_return.h"
+#include "tests/dialogs/dialog_fixture.h"
+
+namespace kqtest {
+namespace {
+
+void CollectPlaced(const ui::Layout& layout, std::set<const ui::Control*>& placed,
+                   const std::string& where) {
+  std::set<std::pair<int, int>> cells;
+  for (const ui::LayoutItem& item : layout.Items()) {
+    EXPECT_TRUE(placed.insert(item.control).second) << item.control->Name() << " placed twice";
+    for (int r = item.row; r < item.row + item.rowSpan; ++r) {
+      for (int c = item.column; c < item.column + item.columnSpan; ++c) {
+        EXPECT_TRUE(cells.insert({r, c}).second)
+            << where << ": cell " << r << "," << c << " taken again by " << item.control->Name();
+      }
+    }
+    if (item.control->Kind() == ui::ControlKind::Frame) {
+      CollectPlaced(static_cast<const ui::Frame*>(item.control)->layout(), placed,
+                    item.control->Name());
+    }
+  }
+}
+
+void ExpectLaidOut(const ui::Form& form) {
+  std::set<const ui::Control*> placed;
+  CollectPlaced(form.layout(), placed, form.Name());
+  for (const ui::Control* c : form.Controls()) {
+    if (!c->Visible()) continue;  // hidden companions are not shown
+    EXPECT_TRUE(placed.count(c)) << form.Name() << "." << c->Name() << " has no place";
+  }
+  EXPECT_GT(form.Width(), 0);
+  EXPECT_GT(form.Height(), 0);
+}
+
+TEST(DialogLayout, EveryFormPlacesEveryVisibleControlOnce) {
+  std::vector<std::unique_ptr<ui::Form>> forms;
+  forms.push_back(std::make_unique<kq::frmCondition>());
+  forms.push_back(std::make_unique<kq::frmDelay>());
+  forms.push_back(std::make_unique<kq::frmGosub>());
+  forms.push_back(std::make_unique<kq::frmGoto>());
+  forms.push_back(std::make_unique<kq::frmRandom>());
+  forms.push_back(std::make_unique<kq::frmRemark>());
+  forms.push_back(std::make_unique<kq::frmReturn>());
+  forms.push_back(std::make_unique<kq::frmFunc>());
+  forms.push_back(std::make_unique<kq::frmDefVar>());
+  for (const auto& f : forms) ExpectLaidOut(*f);
+}
+
+}  // namespace
+}  // namespace kqtest

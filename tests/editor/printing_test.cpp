@@ -1,0 +1,162 @@
+// Printing: the print dialog, the listing file beside the application, pages of 60 rows
+// under their page headers, page ranges and copies, as the headless printer reports them.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "document/state.h"
+#include "editor/commands.h"
+#include "editor/listing.h"
+#include "editor/printing.h"
+#include "tests/editor/doc_builder.h"
+
+namespace kq::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class PrintingTest : public ::testing::Test, public DocFixture {
+ protected:
+  void SetUp() override {
+    dir = fs::temp_directory_path() / ("kq_print_" + std::to_string(::getpid()));
+    fs::create_directories(dir);
+    ApplFileName = (dir / "app.kqx").string();
+  }
+  void TearDown() override { fs::remove_all(dir); }
+  // n Remark lines: with an empty document's 7 rows of headings, 7 + 2n rows are printed.
+  void Remarks(int n) {
+    for (int i = 0; i < n; ++i) Add("", Rec(13).Text(0, 52, "r" + std::to_string(i)));
+  }
+  std::vector<std::vector<std::string>> Pages() {
+    std::vector<std::vector<std::string>> pages;
+    for (const auto& e : platform.EventsOf("page")) {
+      std::vector<std::string> rows;
+      for (const auto& r : e.fields["rows"].Arr()) rows.push_back(r.Str());
+      pages.push_back(rows);
+    }
+    return pages;
+  }
+  std::vector<std::string> FileRows() {
+    std::vector<std::string> rows;
+    WriteListing([&](const std::string& r) { rows.push_back(r); }, "2026-11-22 10:00:00");
+    return rows;
+  }
+  fs::path dir;
+};
+
+TEST_F(PrintingTest, PageHeaderRepeatsTheFileHeader) {
+  Remarks(1);
+  PrintListingRows(FileRows(), "2026-11-22 10:00:00", 0, 0, 1);
+  const auto pages = Pages();
+  ASSERT_EQ(pages.size(), 1u);
+  const std::string top = "    Date/Time: 2026-11-22 10:00:00";
+  EXPECT_EQ(pages[0][0], top + std::string(63 - top.size(), ' ') + "Page No. 001");
+  EXPECT_EQ(pages[0][1], "    File Name: " + ApplFileName);
+  EXPECT_EQ(pages[0][2],
+            "    Compiled : No            KQEdit V3.10.00           KQX File Format V3.10");
+  EXPECT_EQ(pages[0][3], "");
+  EXPECT_EQ(pages[0][4], "    Declared Variables:");
+  EXPECT_EQ(pages[0].size(), 4u + 9u);
+  EXPECT_EQ(pages[0].back(), "    " + std::string(26, ' ') + "r0" + std::string(50, ' '));
+}
+
+TEST_F(PrintingTest, SixtyRowsToAPage) {
+  Remarks(59);  // 125 rows: 60, 60, 5
+  PrintListingRows(FileRows(), "t", 0, 0, 1);
+  const auto pages = Pages();
+  ASSERT_EQ(pages.size(), 3u);
+  EXPECT_EQ(pages[0].size(), 64u);
+  EXPECT_EQ(pages[1].size(), 64u);
+  EXPECT_EQ(pages[2].size(), 9u);
+  EXPECT_NE(pages[1][0].find("Page No. 002"), std::string::npos);
+  EXPECT_NE(pages[2][0].find("Page No. 003"), std::string::npos);
+}
+
+TEST_F(PrintingTest, FileEndingOnAFullPageStartsOneMoreHeader) {
+  Remarks(59);
+  std::vector<std::string> rows = FileRows();
+  rows.resize(4 + 120);
+  PrintListingRows(rows, "t", 0, 0, 1);
+  const auto pages = Pages();
+  ASSERT_EQ(pages.size(), 3u);
+  EXPECT_EQ(pages[2].size(), 4u);  // the header of page 3 alone
+}
+
+TEST_F(PrintingTest, PageRangePrintsOnlyItsPages) {
+  Remarks(59);
+  PrintListingRows(FileRows(), "t", 2, 3, 1);
+  const auto pages = Pages();
+  ASSERT_EQ(pages.size(), 2u);
+  EXPECT_NE(pages[0][0].find("Page No. 002"), std::string::npos);
+  EXPECT_EQ(pages[0][4], "    " + FileRows()[4 + 60]);
+  EXPECT_NE(pages[1][0].find("Page No. 003"), std::string::npos);
+}
+
+TEST_F(PrintingTest, CopiesRepeatEveryPage) {
+  Remarks(30);  // 67 rows: two pages
+  PrintListingRows(FileRows(), "t", 0, 0, 2);
+  const auto pages = Pages();
+  ASSERT_EQ(pages.size(), 4u);
+  EXPECT_EQ(pages[0], pages[2]);
+  EXPECT_EQ(pages[1], pages[3]);
+}
+
+TEST_F(PrintingTest, PrintCommandWritesTheListingFileThenPrints) {
+  Remarks(3);
+  platform.QueuePrint(ui::PrintDialogRequest{0, 0, 1, 0});
+  PrintCommand();
+  std::ifstream in(dir / "app.TXT", std::ios::binary);
+  std::stringstream text;
+  text << in.rdbuf();
+  const std::string file = text.str();
+  ASSERT_FALSE(file.empty());
+  EXPECT_EQ(file.substr(0, 11), "Date/Time: ");
+  EXPECT_EQ(file.substr(file.find("\r\n") + 2, 11 + ApplFileName.size() + 2),
+            "File Name: " + ApplFileName + "\r\n");
+  EXPECT_EQ(platform.CountOf("printdialog"), 1);
+  ASSERT_EQ(Pages().size(), 1u);
+  EXPECT_EQ(Pages()[0].size(), 4u + 7u + 6u);
+}
+
+TEST_F(PrintingTest, CancelWritesNothing) {
+  Remarks(1);
+  platform.QueuePrint(std::nullopt);
+  PrintCommand();
+  EXPECT_FALSE(fs::exists(dir / "app.TXT"));
+  EXPECT_EQ(platform.CountOf("page"), 0);
+}
+
+TEST_F(PrintingTest, FaultInTheListingKeepsThePartialFileAndPrintsNothing) {
+  Remarks(1);
+  Add("", Rec(43).I32(0, 9));
+  platform.QueuePrint(ui::PrintDialogRequest{0, 0, 1, 0});
+  PrintCommand();
+  std::ifstream in(dir / "app.TXT", std::ios::binary);
+  std::stringstream text;
+  text << in.rdbuf();
+  EXPECT_NE(text.str().find("On/Off Hook"), std::string::npos);
+  EXPECT_EQ(platform.CountOf("page"), 0);
+  EXPECT_EQ(platform.CountOf("msgbox"), 0);
+}
+
+}  // namespace
+}  // namespace kq::test
+
+namespace kq::test {
+namespace {
+
+TEST_F(PrintingTest, DialogRangeAndCopiesReachThePrinter) {
+  Remarks(59);  // three pages
+  platform.QueuePrint(ui::PrintDialogRequest{3, 3, 2, 0});
+  PrintCommand();
+  const auto pages = Pages();
+  ASSERT_EQ(pages.size(), 2u);
+  EXPECT_NE(pages[0][0].find("Page No. 003"), std::string::npos);
+  EXPECT_EQ(pages[0], pages[1]);
+  EXPECT_EQ(pages[0].size(), 9u);
+}
+
+}  // namespace
+}  // namespace kq::test

@@ -1,0 +1,265 @@
+// The script runner on forms of its own: the grammar, the refusals, the modal dialogs that
+// the following lines drive, the text encodings and the exit statuses.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <sstream>
+
+#include "ui/headless/headless_platform.h"
+#include "ui/headless/script_runner.h"
+#include "ui/model/controls.h"
+#include "ui/model/form.h"
+#include "ui/model/list_controls.h"
+#include "ui/model/menu.h"
+#include "ui/platform/platform.h"
+
+namespace {
+
+class frmAsk : public ui::Form {
+ public:
+  frmAsk() : ui::Form("frmAsk", "Ask") {
+    cmdOk.OnClick = [this] {
+      answered = txtValue.Text();
+      Unload();
+    };
+  }
+  ui::TextBox txtValue{*this, "txtValue"};
+  ui::CommandButton cmdOk{*this, "cmdOk", "&Ok"};
+  std::string answered;
+};
+
+class frmMain : public ui::Form {
+ public:
+  frmMain() : ui::Form("frmMain", "Main") {
+    txtDigits.SetMaxLength(4);
+    txtDigits.OnKeyPress = [](int& k) {
+      if (k != 8 && (k < '0' || k > '9')) k = 0;
+    };
+    cboKind.SetStyle(ui::ComboBox::Style::DropdownList);
+    cboKind.AddItem("Long");
+    cboKind.AddItem("String");
+    lstItems.SetMultiSelect(ui::ListBox::MultiSelect::Extended);
+    lstItems.AddItem("one  ");
+    lstItems.AddItem("two");
+    lstItems.OnDblClick = [this] { ++doubleClicks; };
+    lstItems.OnKeyDown = [this](int& k, int) { lastKeyDown = k; };
+    cmdOff.SetEnabled(false);
+    cmdHidden.SetVisible(false);
+    cmdAsk.OnClick = [this] {
+      frmAsk ask;
+      ask.ShowModal();
+      asked = ask.answered;
+      ui::platform().MsgBox("Asked " + asked, ui::vbYesNo | ui::vbQuestion, "Result");
+    };
+    cmdFail.OnClick = [] { ui::ProgramError("Impossible state in frmMain."); };
+    mnuTools.SetEnabled(false);
+    mnuTools.Append(mnuToolsItem);
+    AddMenu(mnuTools);
+  }
+  ui::TextBox txtDigits{*this, "txtDigits"};
+  ui::TextBox txtName{*this, "txtName"};
+  ui::ComboBox cboKind{*this, "cboKind"};
+  ui::ListBox lstItems{*this, "lstItems"};
+  ui::CheckBox chkFlag{*this, "chkFlag", "Flag"};
+  ui::OptionButton optA[2]{{*this, "optA", "A", 0}, {*this, "optA", "B", 1}};
+  ui::CommandButton cmdOff{*this, "cmdOff", "Off"};
+  ui::CommandButton cmdHidden{*this, "cmdHidden", "Hidden"};
+  ui::CommandButton cmdAsk{*this, "cmdAsk", "Ask"};
+  ui::CommandButton cmdFail{*this, "cmdFail", "Fail"};
+  ui::Menu mnuTools{*this, "mnuTools", "&Tools"};
+  ui::Menu mnuToolsItem{*this, "mnuToolsItem", "&Run", 0};
+  std::string asked;
+  int doubleClicks = 0;
+  int lastKeyDown = 0;
+};
+
+class ScriptRunner : public ::testing::Test {
+ protected:
+  int Run(const std::string& script) {
+    ui::ScriptHooks hooks;
+    hooks.start = [this] {
+      form_ = std::make_unique<frmMain>();
+      ui::platform().Show(*form_);
+    };
+    hooks.dump = [] {
+      ui::Json j;
+      j.Set("program", "test");
+      return j;
+    };
+    std::istringstream in(script);
+    // A fresh platform for each run, as each run of kqx has its own.
+    form_.reset();
+    platform_ = std::make_unique<ui::HeadlessPlatform>();
+    platform_->SetEventStream(&out_);
+    return ui::RunScriptOn(*platform_, in, hooks);
+  }
+  std::vector<std::string> Lines() const {
+    std::vector<std::string> lines;
+    std::istringstream in(out_.str());
+    std::string l;
+    while (std::getline(in, l)) lines.push_back(l);
+    return lines;
+  }
+  void TearDown() override {
+    form_.reset();
+    ui::SetPlatform(nullptr);
+    platform_.reset();
+  }
+
+  std::unique_ptr<ui::HeadlessPlatform> platform_;
+  std::ostringstream out_;
+  std::unique_ptr<frmMain> form_;
+};
+
+TEST_F(ScriptRunner, TypingGoesThroughKeyPressAndMaxLength) {
+  EXPECT_EQ(0, Run("\xEF\xBB\xBF"
+                   "frmMain.txtDigits.Type \"1a2b345\"\n"
+                   "frmMain.txtDigits.Key 8\n"
+                   "frmMain.txtName.Type \"Zoë \\\"q\\\"\"\n"
+                   "show frmMain.txtName\n"));
+  EXPECT_EQ("123", form_->txtDigits.Text());
+  EXPECT_EQ(std::string("Zo\xEB \"q\""), form_->txtName.Text());
+  EXPECT_EQ(
+      "{\"event\":\"state\",\"form\":\"frmMain\",\"control\":\"txtName\",\"index\":null,"
+      "\"text\":\"Zoë \\\"q\\\"\",\"enabled\":true,\"visible\":true}",
+      Lines().back());
+}
+
+TEST_F(ScriptRunner, ListsCombosChecksAndOptions) {
+  EXPECT_EQ(0, Run("frmMain.cboKind.Text \"String\"\n"
+                   "frmMain.lstItems.Select \"one\"\n"
+                   "frmMain.lstItems.Selected 1 true\n"
+                   "frmMain.lstItems.DblClick\n"
+                   "frmMain.lstItems.KeyDown 46\n"
+                   "frmMain.chkFlag.Value 1\n"
+                   "frmMain.optA(1).Value 1\n"
+                   "frmMain.lstItems.Select \"three\"\n"
+                   "show frmMain.lstItems\n"));
+  EXPECT_EQ(1, form_->cboKind.ListIndex());
+  EXPECT_EQ((std::vector<int>{0, 1}), form_->lstItems.SelectedIndexes());
+  EXPECT_EQ(1, form_->doubleClicks);
+  EXPECT_EQ(46, form_->lastKeyDown);
+  EXPECT_EQ(1, form_->chkFlag.Value());
+  EXPECT_TRUE(form_->optA[1].Value());
+  const auto refused = platform_->EventsOf("refused");
+  ASSERT_EQ(1u, refused.size());
+  EXPECT_EQ(8, refused[0].fields["line"].Int());
+  EXPECT_NE(std::string::npos, Lines().back().find("\"items\":[\"one  \",\"two\"]"));
+}
+
+TEST_F(ScriptRunner, WhatAPersonCouldNotUseIsRefusedAndTheScriptGoesOn) {
+  EXPECT_EQ(0, Run("frmMain.cmdOff.Click\n"
+                   "frmMain.cmdHidden.Click\n"
+                   "frmMain.mnuToolsItem(0).Click\n"
+                   "frmAsk.cmdOk.Click\n"
+                   "frmMain.txtName.Text \"done\"\n"));
+  const auto refused = platform_->EventsOf("refused");
+  ASSERT_EQ(4u, refused.size());
+  EXPECT_EQ("cmdOff is disabled", refused[0].fields["reason"].Str());
+  EXPECT_EQ("cmdHidden is not visible", refused[1].fields["reason"].Str());
+  EXPECT_EQ("mnuToolsItem(0) is under a menu that is disabled", refused[2].fields["reason"].Str());
+  EXPECT_EQ("form frmAsk is not shown", refused[3].fields["reason"].Str());
+  EXPECT_EQ("done", form_->txtName.Text());
+}
+
+TEST_F(ScriptRunner, TheLinesAfterAModalDialogActInItUntilItUnloads) {
+  EXPECT_EQ(0, Run("answer No\n"
+                   "frmMain.cmdAsk.Click\n"
+                   "  frmMain.txtName.Text \"behind\"\n"
+                   "  frmAsk.txtValue.Type \"42\"\n"
+                   "  frmAsk.cmdOk.Click\n"
+                   "frmMain.cmdAsk.Click\n"
+                   "  frmAsk.cmdOk.Click\n"));
+  const auto boxes = platform_->EventsOf("msgbox");
+  ASSERT_EQ(2u, boxes.size());
+  EXPECT_EQ("Asked 42", boxes[0].fields["text"].Str());
+  EXPECT_EQ("No", boxes[0].fields["answer"].Str());
+  EXPECT_FALSE(boxes[0].fields["default"].Bool());
+  EXPECT_EQ("Yes", boxes[1].fields["answer"].Str());  // no answer queued: the first button
+  EXPECT_TRUE(boxes[1].fields["default"].Bool());
+  EXPECT_EQ("", form_->txtName.Text());  // the main form was behind the dialog
+  EXPECT_EQ("form frmMain is behind frmAsk",
+            platform_->EventsOf("refused")[0].fields["reason"].Str());
+}
+
+TEST_F(ScriptRunner, ADialogLeftOpenAtTheEndIsAWrongScript) {
+  EXPECT_EQ(ui::kScriptWrong, Run("frmMain.cmdAsk.Click\n  frmAsk.txtValue.Type \"1\"\n"));
+  const auto errors = platform_->EventsOf("error");
+  ASSERT_EQ(1u, errors.size());
+  EXPECT_EQ(2, errors[0].fields["line"].Int());
+}
+
+TEST_F(ScriptRunner, WrongLinesStopTheScriptWithTheirLineNumber) {
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"frmMain.cmdNone.Click", "unknown control frmMain.cmdNone"},
+      {"frmMain.txtName.Text \"open", "string without its closing quote"},
+      {"answer Maybe", "unknown answer Maybe"},
+      {"launch", "unknown command launch"},
+      {"frmMain.txtName.Fly", "unknown action Fly"},
+      {"frmMain.chkFlag.Text \"x\"", "chkFlag has no Text"},
+      {"frmMain.txtName.Text \"a\\q\"", "unknown escape \\q"},
+  };
+  for (const auto& [line, message] : cases) {
+    out_.str("");
+    EXPECT_EQ(ui::kScriptWrong, Run("# a comment\n\n" + line + "\nfrmMain.txtName.Text \"x\"\n"))
+        << line;
+    const auto errors = platform_->EventsOf("error");
+    ASSERT_EQ(1u, errors.size()) << line;
+    EXPECT_EQ(3, errors[0].fields["line"].Int()) << line;
+    EXPECT_EQ(message, errors[0].fields["message"].Str()) << line;
+    EXPECT_EQ("", form_->txtName.Text()) << line;
+  }
+}
+
+TEST_F(ScriptRunner, AProgramErrorEndsTheRunWithStatusTwo) {
+  EXPECT_EQ(ui::kScriptProgramEnded, Run("frmMain.cmdFail.Click\nfrmMain.txtName.Text \"x\"\n"));
+  const auto lines = Lines();
+  ASSERT_GE(lines.size(), 2u);
+  EXPECT_EQ("{\"event\":\"programend\",\"text\":\"Impossible state in frmMain.\"}", lines.back());
+  EXPECT_EQ("", form_->txtName.Text());
+}
+
+TEST_F(ScriptRunner, ShowAndDumpPrintStates) {
+  EXPECT_EQ(0, Run("frmMain.txtName.Focus\nshow frmMain\nshow frmAsk\ndump\n"));
+  const auto lines = Lines();
+  ASSERT_EQ(5u, lines.size());
+  EXPECT_EQ(
+      "{\"event\":\"state\",\"form\":\"frmMain\",\"caption\":\"Main\",\"visible\":true,"
+      "\"active\":\"txtName\"}",
+      lines[2]);
+  EXPECT_EQ("{\"event\":\"state\",\"form\":\"frmAsk\",\"visible\":false}", lines[3]);
+  EXPECT_EQ("{\"event\":\"state\",\"program\":\"test\"}", lines[4]);
+}
+
+TEST(ScriptRun, SettingsFileIsReadBeforeAndWrittenAfter) {
+  const auto path = std::filesystem::temp_directory_path() / "kq-runner-settings.ini";
+  std::ofstream(path) << "Greeting=hello\n";
+  std::unique_ptr<frmMain> form;
+  std::string seen;
+  ui::ScriptHooks hooks;
+  hooks.start = [&] {
+    seen = ui::platform().GetSetting("KQEdit", "Settings", "Greeting", "");
+    form = std::make_unique<frmMain>();
+    ui::platform().Show(*form);
+  };
+  hooks.stop = [&] { form.reset(); };
+  ui::ScriptOptions options;
+  options.settingsFile = path.string();
+  std::istringstream in("setting \"Answer\" \"Æ42\"\n");
+  std::ostringstream out;
+  EXPECT_EQ(0, ui::RunScript(in, out, options, hooks));
+  EXPECT_EQ("hello", seen);
+  std::ifstream back(path, std::ios::binary);
+  std::stringstream content;
+  content << back.rdbuf();
+  EXPECT_EQ(
+      "Answer=\xC6"
+      "42\nGreeting=hello\n",
+      content.str());
+  EXPECT_EQ("{\"event\":\"show\",\"form\":\"frmMain\"}\n", out.str());
+  std::filesystem::remove(path);
+}
+
+}  // namespace
