@@ -364,3 +364,28 @@ TEST_F(BindingTest, FocusGoesBothWays) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(BindingTest, ListWithColumnsRunsTopToBottomAndMovesByAColumn) {
+  auto* view = widget<QListView>(form.lstItems);
+  form.lstItems.SetColumns(2);
+  for (int i = 0; i < 40; ++i) form.lstItems.AddItem("item " + std::to_string(i));
+  view->resize(300, 100);
+  QApplication::processEvents();
+  const QRect first = view->visualRect(view->model()->index(0, 0));
+  const QRect second = view->visualRect(view->model()->index(1, 0));
+  EXPECT_EQ(first.left(), second.left());  // down the first column
+  EXPECT_GT(second.top(), first.top());
+  const int rows = view->viewport()->height() / view->gridSize().height();
+  ASSERT_GT(rows, 0);
+  EXPECT_GT(view->visualRect(view->model()->index(rows, 0)).left(), first.left());
+  form.lstItems.UserSelect(0);
+  view->setFocus();
+  QTest::keyClick(view, Qt::Key_Right);
+  EXPECT_EQ(form.lstItems.ListIndex(), rows);
+  QTest::keyClick(view, Qt::Key_Left);
+  EXPECT_EQ(form.lstItems.ListIndex(), 0);
+}
+
+}  // namespace

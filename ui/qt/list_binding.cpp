@@ -136,6 +136,9 @@ ListBinding::ListBinding(ListBox& list, QWidget* parent)
 bool ListBinding::eventFilter(QObject* watched, QEvent* event) {
   if (watched != view()->viewport()) return ControlBinding::eventFilter(watched, event);
   switch (event->type()) {
+    case QEvent::Resize:
+      if (list_.Columns() > 0) ApplyColumns();
+      return false;
     case QEvent::MouseButtonPress: {
       auto* me = static_cast<QMouseEvent*>(event);
       if (me->button() != Qt::LeftButton) return true;
@@ -209,6 +212,14 @@ bool ListBinding::OtherKey(int keyCode, int shift, QKeyEvent&) {
     case 36:  // Home
       target = 0;
       break;
+    case 37:  // Left and Right move by a column in a list with columns
+    case 39: {
+      if (list_.Columns() <= 0) return true;
+      const int rows =
+          std::max(1, view()->viewport()->height() / std::max(1, view()->gridSize().height()));
+      target = current + (keyCode == 39 ? rows : -rows);
+      break;
+    }
     case 35:  // End
       target = count - 1;
       break;
@@ -232,6 +243,7 @@ void ListBinding::Sync(const Change& change) {
     case Change::What::Property:
       ControlBinding::Sync(change);
       delegate_->SetStops(list_.TabStops());
+      ApplyColumns();
       view()->viewport()->update();
       break;
     case Change::What::Selection:
@@ -247,6 +259,24 @@ void ListBinding::Sync(const Change& change) {
       }
       break;
   }
+}
+
+void ListBinding::ApplyColumns() {
+  QListView* v = view();
+  const int columns = list_.Columns();
+  if (columns <= 0) {
+    if (v->isWrapping()) {
+      v->setWrapping(false);
+      v->setGridSize({});
+    }
+    return;
+  }
+  v->setFlow(QListView::TopToBottom);
+  v->setWrapping(true);
+  v->setResizeMode(QListView::Adjust);
+  const int row = v->fontMetrics().height() + 2;
+  const QSize grid(std::max(1, v->viewport()->width() / columns), row);
+  if (v->gridSize() != grid) v->setGridSize(grid);
 }
 
 void ListBinding::SyncSelection(const Change& change) {

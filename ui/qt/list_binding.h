@@ -58,6 +58,9 @@ class ListBinding : public ControlBinding {
 
  private:
   void SyncSelection(const Change& change);
+  // A list with columns shows its items top to bottom in that many columns of the
+  // visible width, scrolling sideways, as the original list did.
+  void ApplyColumns();
   void Press(int row, Qt::KeyboardModifiers modifiers);
   void SelectRange(int from, int to);
 
