@@ -5,9 +5,12 @@
 #include <QApplication>
 #include <QDialog>
 #include <QFile>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
@@ -105,6 +108,35 @@ TEST_F(PlatformTest, MessageBoxButtonsIconsAndAnswers) {
   EXPECT_EQ(platform.Boxes()[2].title, "t");
 }
 
+TEST_F(PlatformTest, FileDialogShowsTheSystemsFilterAndFolder) {
+  QTemporaryDir dir;
+  const QString wanted = dir.path() + "/new.kqx";
+  ui::FileDialogRequest request;
+  request.kind = ui::FileDialogRequest::Kind::Save;
+  request.initDir = dir.path().toStdString();
+  request.filter = "V/R Files (*.kqx)|*.kqx";
+  QTimer::singleShot(0, [&] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->nameFilters(), QStringList{"V/R Files (*.kqx)"});
+    EXPECT_EQ(dialog->directory().absolutePath(), QDir(dir.path()).absolutePath());
+    EXPECT_EQ(dialog->acceptMode(), QFileDialog::AcceptSave);
+    dialog->selectFile(wanted);
+    static_cast<QDialog*>(dialog)->accept();
+  });
+  const auto chosen = platform.FileDialog(request);
+  ASSERT_TRUE(chosen.has_value());
+  EXPECT_EQ(*chosen, wanted.toStdString());
+  request.kind = ui::FileDialogRequest::Kind::Open;
+  QTimer::singleShot(0, [] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->fileMode(), QFileDialog::ExistingFile);
+    dialog->reject();
+  });
+  EXPECT_FALSE(platform.FileDialog(request).has_value());  // cancel gives nothing
+}
+
 TEST_F(PlatformTest, SettingsRoundTripUnderTheApplicationAndSection) {
   EXPECT_EQ(platform.GetSetting("KQEdit", "Settings", "RecentFileName1", "none"), "none");
   platform.SaveSetting("KQEdit", "Settings", "RecentFileName1",
@@ -139,6 +171,31 @@ TEST_F(PlatformTest, PrintingRowsAndPagesIntoAFile) {
   EXPECT_GE(
       bytes.count("/Type /Page\n") + bytes.count("/Type /Page\r") + bytes.count("/Type /Page "), 2);
   platform.QueuePrint(std::nullopt);
+  EXPECT_FALSE(platform.PrintDialog(r));
+}
+
+TEST_F(PlatformTest, PrintDialogOffersThePagesAndReturnsTheChoice) {
+  QTimer::singleShot(0, [] {
+    auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->minPage(), 1);
+    EXPECT_EQ(dialog->maxPage(), 100);
+    EXPECT_TRUE(dialog->testOption(QAbstractPrintDialog::PrintPageRange));
+    EXPECT_FALSE(dialog->testOption(QAbstractPrintDialog::PrintSelection));
+    static_cast<QDialog*>(dialog)->accept();
+  });
+  ui::PrintDialogRequest r;
+  r.copies = 1;
+  ASSERT_TRUE(platform.PrintDialog(r));
+  EXPECT_EQ(r.fromPage, 0);  // all pages
+  EXPECT_EQ(r.toPage, 0);
+  EXPECT_EQ(r.copies, 1);
+  platform.EndDoc();
+  QTimer::singleShot(0, [] {
+    auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    dialog->reject();
+  });
   EXPECT_FALSE(platform.PrintDialog(r));
 }
 
