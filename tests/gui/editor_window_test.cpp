@@ -67,7 +67,7 @@ TEST_F(EditorWindowTest, BuildCompileSaveAndCloseAnApplication) {
     EXPECT_EQ(d.lstVariable.ListCount(), 1);
     QTest::mouseClick(qobject_cast<QPushButton*>(b.WidgetOf(d.cmdOk)), Qt::LeftButton);
   });
-  action(form->mnuDefineItem[0])->trigger();
+  QTest::keyClick(list(), Qt::Key_V, Qt::ControlModifier);  // Define, Variables by its shortcut
   EXPECT_EQ(kq::RTrimZ(std::string(kq::PrgHdr.Variable[0].VarRefName, 28)), "Count");
 
   // Edit, Add: the picker, then the Goto dialog.
@@ -91,7 +91,8 @@ TEST_F(EditorWindowTest, BuildCompileSaveAndCloseAnApplication) {
     QTest::keyClicks(b.WidgetOf(d.cboLabel[0]), "Top");
     QTest::mouseClick(qobject_cast<QPushButton*>(b.WidgetOf(d.cmdOk)), Qt::LeftButton);
   });
-  action(form->mnuEditItem[0])->trigger();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
+  QTest::keyClick(list(), Qt::Key_A, Qt::ControlModifier);  // Edit, Add by its shortcut
   ASSERT_EQ(list()->model()->rowCount(), 2);
   EXPECT_TRUE(RowText(1).startsWith("0001\t\tCondition"));
   EXPECT_TRUE(RowText(1).contains("THEN Top"));

@@ -233,6 +233,8 @@ void QtPlatform::ShowModal(Form& form) {
     }
   }
   delete window;
+  // The window that opened the dialog takes the keyboard again.
+  if (QWidget* top = TopWindow(); top && top->isVisible()) top->activateWindow();
 }
 
 void QtPlatform::Show(Form& form) {
