@@ -141,6 +141,24 @@ TEST_F(EditorWindowTest, BuildCompileSaveAndCloseAnApplication) {
   EXPECT_TRUE(RowText(0).startsWith("0000\t\tGoto"));
   EXPECT_TRUE(RowText(1).startsWith("0001\tTop\tGoto"));
 
+  // The Delete key removes the selected line and numbers the rest again; a double click
+  // opens the line's dialog with its values.
+  QTest::mouseClick(list()->viewport(), Qt::LeftButton, {},
+                    list()->visualRect(list()->model()->index(0, 0)).center());
+  QTest::keyClick(list(), Qt::Key_Delete);
+  ASSERT_EQ(list()->model()->rowCount(), 2);
+  EXPECT_TRUE(RowText(0).startsWith("0000\tTop\tGoto"));
+  bool modified = false;
+  platform.QueueModal([&](QDialog&, FormBinding& b) {
+    auto& d = static_cast<kq::frmGoto&>(b.form());
+    modified = true;
+    EXPECT_EQ(qobject_cast<QLineEdit*>(b.WidgetOf(d.txtLabel))->text().trimmed(), "Top");
+    QTest::mouseClick(qobject_cast<QPushButton*>(b.WidgetOf(d.cmdCancel)), Qt::LeftButton);
+  });
+  QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {},
+                     list()->visualRect(list()->model()->index(0, 0)).center());
+  EXPECT_TRUE(modified);
+
   const size_t before = platform.Boxes().size();
   platform.QueueAnswer(ui::vbCancel);
   window()->close();
