@@ -22,7 +22,9 @@ enum class ControlKind {
   Menu,
 };
 
-// What changed, for a binding that mirrors the control.
+// What changed, for a binding that mirrors the control. Items: first and count of the
+// items concerned. Selection: count 1 when only item first changed its mark, count 0 when
+// any mark may have changed.
 struct Change {
   enum class What { Property, ItemsInserted, ItemsRemoved, ItemsChanged, ItemsReset, Selection };
   What what = What::Property;

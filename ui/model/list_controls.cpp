@@ -128,7 +128,9 @@ void ListBox::SetListIndex(int index) {
   }
   listIndex_ = index;
   if (index >= 0) selected_[index] = 1;
-  Notify(Change::What::Selection);
+  // In a multi-select list only the one item changed its mark.
+  const bool one = multi_ != MultiSelect::None && index >= 0;
+  Notify(Change::What::Selection, one ? index : 0, one ? 1 : 0);
   RaiseClick();
 }
 
@@ -150,7 +152,7 @@ void ListBox::SetSelected(int index, bool selected) {
   }
   selected_[index] = selected ? 1 : 0;
   if (selected) listIndex_ = index;
-  Notify(Change::What::Selection);
+  Notify(Change::What::Selection, index, 1);
 }
 
 int ListBox::SelCount() const {
@@ -172,6 +174,7 @@ void ListBox::UserClick() {
 void ListBox::UserSelect(int index) {
   if (index < 0 || index >= ListCount()) return;
   std::fill(selected_.begin(), selected_.end(), 0);
+  Notify(Change::What::Selection);
   SetListIndex(index);
 }
 
