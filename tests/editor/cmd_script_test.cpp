@@ -1,6 +1,7 @@
 // `kqx script` through the kqx entry point, with injected streams: the options, the
 // settings file written back, the screen size, and the refusals of a wrong command line.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -15,7 +16,7 @@ namespace {
 class CmdScript : public ::testing::Test {
  protected:
   void SetUp() override {
-    dir_ = fs::temp_directory_path() / "kq-cmd-script";
+    dir_ = fs::temp_directory_path() / ("kq-cmd-script-" + std::to_string(::getpid()));
     fs::remove_all(dir_);
     fs::create_directories(dir_);
   }

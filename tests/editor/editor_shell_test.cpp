@@ -255,7 +255,8 @@ TEST_F(EditorTest, AnOpenedFileEnablesTheMenusAndSelectsLineZero) {
 }
 
 TEST_F(EditorTest, FileDeleteAsksOnceAndGoesBackToNoDocument) {
-  const auto dir = std::filesystem::temp_directory_path() / "kq-shell-delete";
+  const auto dir =
+      std::filesystem::temp_directory_path() / ("kq-shell-delete-" + std::to_string(::getpid()));
   std::filesystem::create_directories(dir);
   platform_.SetUserDirectory(dir.string());
   FrmEdit& f = Start();
@@ -280,7 +281,8 @@ TEST_F(EditorTest, FileDeleteAsksOnceAndGoesBackToNoDocument) {
 // Delete removes the document's file, as a file; a folder that stands under that name is not
 // the document and stays, and the editor goes back to no document either way.
 TEST_F(EditorTest, FileDeleteRemovesTheFileButNeverAFolder) {
-  const auto dir = std::filesystem::temp_directory_path() / "kq-shell-delete-kinds";
+  const auto dir = std::filesystem::temp_directory_path() /
+                   ("kq-shell-delete-kinds-" + std::to_string(::getpid()));
   std::filesystem::remove_all(dir);
   std::filesystem::create_directories(dir);
   platform_.SetUserDirectory(dir.string());
@@ -400,7 +402,8 @@ TEST_F(EditorTest, RecentFilesKeepTheirOrderAndTheFourthFallsOut) {
 }
 
 TEST_F(EditorTest, EmptyRecentEntriesLeaveGapsInTheNumbers) {
-  const auto dir = std::filesystem::temp_directory_path() / "kq-shell-recent";
+  const auto dir =
+      std::filesystem::temp_directory_path() / ("kq-shell-recent-" + std::to_string(::getpid()));
   std::filesystem::create_directories(dir);
   const std::string two = (dir / "two.kqx").string();
   std::filesystem::remove(two);

@@ -2,6 +2,7 @@
 // program calls its handler: the same events in the same order, the same document and
 // window state at the end, the same settings written.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <functional>
@@ -157,7 +158,8 @@ std::vector<Step> Steps(const std::string& home) {
 class ScriptEquivalence : public ::testing::Test {
  protected:
   void SetUp() override {
-    home_ = (fs::temp_directory_path() / "kq-script-equivalence").string();
+    home_ = (fs::temp_directory_path() / ("kq-script-equivalence-" + std::to_string(::getpid())))
+                .string();
     Fresh();
   }
   void TearDown() override {

@@ -5,6 +5,7 @@
 // file is copied into the folder of the run before it starts, for the script to open. The date
 // and time of a printed page header are the clock's: they read "####-##-## ##:##:##".
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -55,7 +56,8 @@ class ScriptGolden : public ::testing::TestWithParam<fs::path> {};
 
 TEST_P(ScriptGolden, EventsMatchExpected) {
   const fs::path script = GetParam();
-  const fs::path home = fs::temp_directory_path() / ("kq-golden-" + script.stem().string());
+  const fs::path home = fs::temp_directory_path() /
+                        ("kq-golden-" + script.stem().string() + "-" + std::to_string(::getpid()));
   fs::remove_all(home);
   fs::create_directories(home);
   const std::string homeText = home.string();

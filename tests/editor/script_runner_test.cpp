@@ -1,6 +1,7 @@
 // The script runner on forms of its own: the grammar, the refusals, the modal dialogs that
 // the following lines drive, the text encodings and the exit statuses.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -274,7 +275,8 @@ TEST_F(ScriptRunner, ShowAndDumpPrintStates) {
 }
 
 TEST(ScriptRun, SettingsFileIsReadBeforeAndWrittenAfter) {
-  const auto path = std::filesystem::temp_directory_path() / "kq-runner-settings.ini";
+  const auto path = std::filesystem::temp_directory_path() /
+                    ("kq-runner-settings.ini-" + std::to_string(::getpid()));
   std::ofstream(path) << "Greeting=hello\n";
   std::unique_ptr<frmMain> form;
   std::string seen;
