@@ -7,6 +7,7 @@
 
 #include "ui/headless/headless_platform.h"
 #include "ui/model/controls.h"
+#include "ui/model/file_controls.h"
 #include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 #include "ui/model/menu.h"
@@ -188,6 +189,12 @@ Json ControlState(const Control& c) {
       break;
     }
     case ControlKind::ListBox:
+    case ControlKind::FileListBox:
+      break;
+    case ControlKind::DriveListBox:
+      j.Set("text", static_cast<const DriveListBox&>(c).Drive());
+      break;
+    case ControlKind::DirListBox:
       break;
   }
   j.Set("enabled", c.Enabled());
@@ -203,13 +210,25 @@ Json ControlState(const Control& c) {
     std::vector<std::string> list;
     for (int i = 0; i < cb.ListCount(); ++i) list.push_back(cb.List(i));
     items(list);
-  } else if (c.Kind() == ControlKind::ListBox) {
+  } else if (c.Kind() == ControlKind::ListBox || c.Kind() == ControlKind::FileListBox) {
     const auto& lb = static_cast<const ListBox&>(c);
     j.Set("ListIndex", lb.ListIndex());
     items(lb.Items());
     Json::Array sel;
     for (int i : lb.SelectedIndexes()) sel.emplace_back(i);
     j.Set("selected", std::move(sel));
+    if (c.Kind() == ControlKind::FileListBox) {
+      const auto& fl = static_cast<const FileListBox&>(c);
+      j.Set("path", fl.Path());
+      j.Set("pattern", fl.Pattern());
+    }
+  } else if (c.Kind() == ControlKind::DirListBox) {
+    const auto& dl = static_cast<const DirListBox&>(c);
+    j.Set("ListIndex", dl.ListIndex());
+    std::vector<std::string> list;
+    for (int i = 0; i < dl.ListCount(); ++i) list.push_back(dl.List(i));
+    items(list);
+    j.Set("path", dl.Path());
   }
   return j;
 }
@@ -463,6 +482,12 @@ class Runner {
       c.UserClick();
     } else if (action == "DblClick") {
       Arity(t, 1);
+      if (kind == ControlKind::DirListBox) {
+        // A double click opens the highlighted folder.
+        auto& dir = static_cast<DirListBox&>(c);
+        const int error = dir.UserOpen(dir.ListIndex());
+        if (error != 0) Refused("run-time error " + std::to_string(error));
+      }
       c.RaiseDblClick();
     } else if (action == "Text") {
       const std::string& s = StringArg(t, action);
@@ -491,7 +516,7 @@ class Runner {
       Select(c, t[1]);
     } else if (action == "Selected") {
       Arity(t, 3);
-      if (kind != ControlKind::ListBox) NotFor(c, action);
+      if (kind != ControlKind::ListBox && kind != ControlKind::FileListBox) NotFor(c, action);
       auto& list = static_cast<ListBox&>(c);
       const int i = IntArg(t, 1, action);
       if (t[2].quoted || (t[2].text != "true" && t[2].text != "false")) {
@@ -524,6 +549,8 @@ class Runner {
       } else {
         NotFor(c, action);
       }
+    } else if (action == "Path" && IsDiskList(kind)) {
+      ChoosePath(c, StringArg(t, action));
     } else if (action == "Path" || action == "Press") {
       Arity(t, 2);
       if (action == "Path" && !t[1].quoted) Wrong("Path takes a quoted folder");
@@ -533,8 +560,33 @@ class Runner {
     }
   }
 
+  static bool IsDiskList(ControlKind kind) {
+    return kind == ControlKind::DriveListBox || kind == ControlKind::DirListBox ||
+           kind == ControlKind::FileListBox;
+  }
+
+  // A person points a drive, directory or file list at a folder. A folder that cannot be
+  // read is the system's run-time error, which no handler of the person's own stands to
+  // catch: the line reports it and the control stays as it was.
+  void ChoosePath(Control& c, const std::string& folder) {
+    int error = 0;
+    switch (c.Kind()) {
+      case ControlKind::DriveListBox:
+        error = static_cast<DriveListBox&>(c).UserPath(folder);
+        break;
+      case ControlKind::DirListBox:
+        error = static_cast<DirListBox&>(c).UserPath(folder);
+        break;
+      default:
+        error = static_cast<FileListBox&>(c).UserPath(folder);
+        break;
+    }
+    if (error != 0) Refused("run-time error " + std::to_string(error) + " on " + folder);
+  }
+
   void Select(Control& c, const Token& arg) {
-    const bool isList = c.Kind() == ControlKind::ListBox;
+    if (c.Kind() == ControlKind::DirListBox) return SelectFolder(static_cast<DirListBox&>(c), arg);
+    const bool isList = c.Kind() == ControlKind::ListBox || c.Kind() == ControlKind::FileListBox;
     if (!isList && c.Kind() != ControlKind::ComboBox) NotFor(c, "Select");
     const ItemList& items = isList ? static_cast<const ItemList&>(static_cast<ListBox&>(c))
                                    : static_cast<const ItemList&>(static_cast<ComboBox&>(c));
@@ -562,6 +614,24 @@ class Runner {
     } else {
       static_cast<ComboBox&>(c).UserSelect(index);
     }
+  }
+
+  // A folder of a directory list by its index (from -Depth) or its whole path.
+  void SelectFolder(DirListBox& dir, const Token& arg) {
+    int index = dir.ListCount();
+    if (arg.quoted) {
+      for (int i = -dir.Depth(); i < dir.ListCount(); ++i) {
+        if (dir.List(i) == arg.text) index = i;
+      }
+    } else if (const auto v = ParseInt(arg.text)) {
+      index = *v;
+    } else {
+      Wrong("Select takes an index or a quoted text");
+    }
+    if (index < -dir.Depth() || index >= dir.ListCount()) {
+      return Refused(ControlLabel(dir) + " has no item " + arg.text);
+    }
+    dir.SetListIndex(index);
   }
 
   HeadlessPlatform& p_;

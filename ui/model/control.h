@@ -20,6 +20,9 @@ enum class ControlKind {
   ListBox,
   Frame,
   Menu,
+  DriveListBox,
+  DirListBox,
+  FileListBox,
 };
 
 // What changed, for a binding that mirrors the control. Items: first and count of the

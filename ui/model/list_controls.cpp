@@ -65,6 +65,9 @@ int ItemList::InsertItem(std::string text, int index, bool sorted) {
 ListBox::ListBox(Form& parent, std::string name, int index)
     : Control(parent, ControlKind::ListBox, std::move(name), index) {}
 
+ListBox::ListBox(Form& parent, ControlKind kind, std::string name, int index)
+    : Control(parent, kind, std::move(name), index) {}
+
 void ListBox::SetTabStops(std::vector<int> stops) {
   tabStops_ = std::move(stops);
   Notify();

@@ -65,6 +65,10 @@ class ListBox : public Control, public ItemList {
   // A person's click on item i: in an extended list it becomes the only selection.
   void UserSelect(int index);
 
+ protected:
+  // For the lists that fill themselves (the file list).
+  ListBox(Form& parent, ControlKind kind, std::string name, int index);
+
  private:
   bool sorted_ = false;
   MultiSelect multi_ = MultiSelect::None;
