@@ -1,6 +1,7 @@
 // The dialogs the editor opens from its menus.
 #include "dialogs/dialogs.h"
 #include "dialogs/frm_def_db_tbl.h"
+#include "dialogs/frm_def_path.h"
 #include "dialogs/frm_def_var.h"
 #include "dialogs/frm_func.h"
 
@@ -16,8 +17,11 @@ void ShowDefineVariables() {
   dialog.ShowModal();
 }
 
-// The path declarations come with their own dialog.
-void ShowDefinePaths() {}
+// The kind of path comes from the Define menu item, in DefineItemIndex.
+void ShowDefinePaths() {
+  frmDefPath dialog;
+  dialog.ShowModal();
+}
 
 void ShowDefineTables() {
   frmDefDBTbl dialog;

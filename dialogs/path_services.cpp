@@ -5,6 +5,7 @@
 #include "document/catalogue.h"
 #include "document/state.h"
 #include "document/text.h"
+#include "ui/model/file_controls.h"
 #include "ui/platform/platform.h"
 
 namespace kq {
@@ -74,6 +75,39 @@ int16_t GetListBoxPathVarNo(ListControl combo, int32_t pathType) {
     ui::ProgramError("Path variable name '" + text + "' not found in Global GetListBoxPathVarNo.");
   }
   return static_cast<int16_t>(found);
+}
+
+int SetFileListBox(ui::FileListBox& list, int32_t pathType, std::string_view name,
+                   std::string_view fileName) {
+  if (!ValidLetter(pathType)) {
+    ui::ProgramError("Illegal Path Type " + Str(int64_t{pathType}) + " in Global SetFileListBox.");
+  }
+  const int type = pathType - kPathExport;
+  const std::string wanted = RTrim(name);
+  int found = -1;
+  for (int row = 0; row < kPathRows && found < 0; ++row) {
+    if (RTrim(View(PrgHdr.Path[row][type].PathName)) == wanted) found = row;
+  }
+  if (found < 0) {
+    ui::platform().MsgBox("Path variable name '" + FieldText(name) + "' not defined in " +
+                              FieldText(Row(PathTypeNames[type])) + " path.",
+                          ui::vbOKOnly | ui::vbExclamation, "Missing path definition");
+    return 0;
+  }
+  const int error = list.SetPath(FieldText(View(PrgHdr.Path[found][type].PathText)));
+  if (error != 0) return error;
+  if (list.ListCount() > 0) {
+    const std::string file = RTrim(fileName);
+    int selected = 0;
+    for (int i = 0; i < list.ListCount(); ++i) {
+      if (list.List(i) + '\0' == file) {
+        selected = i;
+        break;
+      }
+    }
+    list.SetListIndex(selected);
+  }
+  return 0;
 }
 
 int HandlePathError(int errorNumber) {

@@ -13,6 +13,7 @@
 
 namespace ui {
 class Control;
+class FileListBox;
 class Form;
 }  // namespace ui
 
@@ -41,6 +42,12 @@ void GetListBoxPath(ListControl combo, int32_t firstLetter, int32_t selectedType
 int16_t GetPathTypeLetter(ListControl combo);
 void GetListBoxPathVar(ListControl combo, int32_t pathType, std::string_view selectedName);
 int16_t GetListBoxPathVarNo(ListControl combo, int32_t pathType);
+// Points the file list at the folder of the path variable name (a fixed field) of
+// pathType and selects fileName (a fixed field), or the first file. A name the type does not
+// have shows "Missing path definition" and leaves the list as it was. Returns the run-time
+// error of a folder that cannot be read (0 none), for the caller's HandlePathError.
+int SetFileListBox(ui::FileListBox& list, int32_t pathType, std::string_view name,
+                   std::string_view fileName);
 // Action code for an error met while showing the files of a path variable: 2 after the
 // message, 3 for an error that is not a missing disk or path.
 int HandlePathError(int errorNumber);

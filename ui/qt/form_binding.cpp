@@ -11,6 +11,7 @@
 #include "ui/qt/button_bindings.h"
 #include "ui/qt/combo_binding.h"
 #include "ui/qt/cp1252.h"
+#include "ui/qt/disk_list_bindings.h"
 #include "ui/qt/list_binding.h"
 #include "ui/qt/menu_binding.h"
 #include "ui/qt/text_binding.h"
@@ -66,10 +67,17 @@ ControlBinding* FormBinding::Bind(Control& control, QWidget* parent) {
       b = std::make_unique<TextBinding>(static_cast<TextBox&>(control), parent);
       break;
     case ControlKind::ListBox:
+    case ControlKind::FileListBox:
       b = std::make_unique<ListBinding>(static_cast<ListBox&>(control), parent);
       break;
     case ControlKind::ComboBox:
       b = std::make_unique<ComboBinding>(static_cast<ComboBox&>(control), parent);
+      break;
+    case ControlKind::DriveListBox:
+      b = std::make_unique<DriveBinding>(static_cast<DriveListBox&>(control), parent);
+      break;
+    case ControlKind::DirListBox:
+      b = std::make_unique<DirBinding>(static_cast<DirListBox&>(control), parent);
       break;
     case ControlKind::Frame:
       b = std::make_unique<FrameBinding>(static_cast<Frame&>(control), parent);
@@ -92,7 +100,8 @@ void FormBinding::BuildGrid(const Layout& layout, QGridLayout* grid, QWidget* pa
     const int hint = ToPixels(c.Width());
     if (widthHints_ && hint > 0 &&
         (c.Kind() == ControlKind::TextBox || c.Kind() == ControlKind::ListBox ||
-         c.Kind() == ControlKind::ComboBox)) {
+         c.Kind() == ControlKind::FileListBox || c.Kind() == ControlKind::DirListBox ||
+         c.Kind() == ControlKind::DriveListBox || c.Kind() == ControlKind::ComboBox)) {
       w->setMinimumWidth(std::max(hint, w->minimumSizeHint().width()));
     }
     grid->addWidget(w, item.row, item.column, item.rowSpan, item.columnSpan);
