@@ -83,10 +83,11 @@ int SetFileListBox(ui::FileListBox& list, int32_t pathType, std::string_view nam
     ui::ProgramError("Illegal Path Type " + Str(int64_t{pathType}) + " in Global SetFileListBox.");
   }
   const int type = pathType - kPathExport;
-  const std::string wanted = RTrim(name);
+  // Both texts right-trimmed, the closing NUL of a field included.
+  const std::string wanted = FieldText(name);
   int found = -1;
   for (int row = 0; row < kPathRows && found < 0; ++row) {
-    if (RTrim(View(PrgHdr.Path[row][type].PathName)) == wanted) found = row;
+    if (FieldText(View(PrgHdr.Path[row][type].PathName)) == wanted) found = row;
   }
   if (found < 0) {
     ui::platform().MsgBox("Path variable name '" + FieldText(name) + "' not defined in " +
@@ -97,10 +98,10 @@ int SetFileListBox(ui::FileListBox& list, int32_t pathType, std::string_view nam
   const int error = list.SetPath(FieldText(View(PrgHdr.Path[found][type].PathText)));
   if (error != 0) return error;
   if (list.ListCount() > 0) {
-    const std::string file = RTrim(fileName);
+    const std::string file = FieldText(fileName);
     int selected = 0;
     for (int i = 0; i < list.ListCount(); ++i) {
-      if (list.List(i) + '\0' == file) {
+      if (list.List(i) == file) {
         selected = i;
         break;
       }
