@@ -147,8 +147,8 @@ TEST_F(DefPathTest, MissingDirectoriesAndForeignDrivesGiveThePathMessages) {
   Declare(68, 2, "ok", base + "/voice/");
   Define([&](kq::frmDefPath& d) {
     EXPECT_EQ(LastBox(), "Path not found: Path do not exist for the defined path variable.");
-    EXPECT_EQ(d.dirPath.Path(), "");  // load ended there
-    d.lstVariable.UserSelect(1);      // gone, ok, old
+    EXPECT_EQ(d.dirPath.Path(), ui::FullFolder(cwd.string()));  // load ended there
+    d.lstVariable.UserSelect(1);                                // gone, ok, old
     EXPECT_EQ(d.dirPath.Path(), base + "/voice");
     d.lstVariable.UserSelect(2);
     EXPECT_EQ(LastBox(), "Disk not found: Disk do not exist for the defined path variable.");

@@ -27,8 +27,12 @@ int DriveListBox::UserPath(const std::string& path) {
 
 // ---- DirListBox
 
+// A new list shows the current directory, as the original did.
 DirListBox::DirListBox(Form& parent, std::string name, int index)
-    : Control(parent, ControlKind::DirListBox, std::move(name), index) {}
+    : Control(parent, ControlKind::DirListBox, std::move(name), index),
+      path_(FullFolder(disk().CurrentDirectory())) {
+  Refresh();
+}
 
 int DirListBox::SetPath(const std::string& folder) {
   const std::string whole = FullFolder(folder);
@@ -87,7 +91,10 @@ void DirListBox::SetListIndex(int index) {
 // ---- FileListBox
 
 FileListBox::FileListBox(Form& parent, std::string name, int index)
-    : ListBox(parent, ControlKind::FileListBox, std::move(name), index) {}
+    : ListBox(parent, ControlKind::FileListBox, std::move(name), index),
+      path_(FullFolder(disk().CurrentDirectory())) {
+  Fill(path_);
+}
 
 int FileListBox::Fill(const std::string& folder) {
   std::vector<std::string> folders, files;

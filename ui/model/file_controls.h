@@ -37,7 +37,8 @@ class DriveListBox : public Control {
 class DirListBox : public Control {
  public:
   DirListBox(Form& parent, std::string name, int index = -1);
-  // The folder shown open, whole, with no trailing separator except on the root.
+  // The folder shown open, whole, with no trailing separator except on the root; at first
+  // the current directory.
   const std::string& Path() const { return path_; }
   // Opens a folder; raises Change when it differs from the one shown.
   int SetPath(const std::string& folder);
@@ -65,6 +66,7 @@ class DirListBox : public Control {
 class FileListBox : public ListBox {
  public:
   FileListBox(Form& parent, std::string name, int index = -1);
+  // At first the current directory.
   const std::string& Path() const { return path_; }
   // Shows the files of a folder that suit Pattern; raises PathChange when it differs.
   int SetPath(const std::string& folder);
