@@ -7,6 +7,7 @@
 #include "dialogs/frm_assign_pa.h"
 #include "dialogs/frm_calculate.h"
 #include "dialogs/frm_condition.h"
+#include "dialogs/frm_def_path.h"
 #include "dialogs/frm_def_var.h"
 #include "dialogs/frm_delay.h"
 #include "dialogs/frm_func.h"
@@ -69,6 +70,7 @@ TEST(DialogLayout, EveryFormPlacesEveryVisibleControlOnce) {
   forms.push_back(std::make_unique<kq::frmReturn>());
   forms.push_back(std::make_unique<kq::frmFunc>());
   forms.push_back(std::make_unique<kq::frmDefVar>());
+  forms.push_back(std::make_unique<kq::frmDefPath>());
   forms.push_back(std::make_unique<kq::frmAssign>());
   forms.push_back(std::make_unique<kq::frmAssignPa>());
   forms.push_back(std::make_unique<kq::frmCalculate>());

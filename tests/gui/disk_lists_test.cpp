@@ -10,6 +10,10 @@
 #include <filesystem>
 #include <fstream>
 
+#include "dialogs/frm_def_path.h"
+#include "document/state.h"
+#include "document/text.h"
+#include "tests/gui/editor_fixture.h"
 #include "ui/model/file_controls.h"
 #include "ui/model/form.h"
 #include "ui/qt/cp1252.h"
@@ -106,6 +110,38 @@ TEST_F(DiskListsTest, DirectoryListOpensFoldersAndTheFileListFollows) {
 
   drive->activated(0);
   EXPECT_EQ(form.driveChanges, 1);
+}
+
+// The declaration dialog built by the generic binding: a folder opened with a double click
+// in the directory list is the folder the new name takes.
+TEST_F(EditorWindowTest, DefinePathsTakesTheFolderOpenedInTheDirectoryList) {
+  const fs::path cwd = fs::current_path();
+  action(form->mnuFileItem[0])->trigger();  // New
+  platform.QueueModal([&](QDialog& dialog, ui::qt::FormBinding& b) {
+    auto& d = static_cast<kq::frmDefPath&>(b.form());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    EXPECT_EQ(dialog.windowTitle(), "Define Voice Paths");
+    auto* dirs = qobject_cast<QListWidget*>(b.WidgetOf(d.dirPath));
+    ASSERT_NE(dirs, nullptr);
+    ASSERT_GT(dirs->count(), 0);
+    EXPECT_NE(qobject_cast<QComboBox*>(b.WidgetOf(d.drvPath)), nullptr);
+    EXPECT_NE(qobject_cast<QListView*>(b.WidgetOf(d.filPath)), nullptr);
+    const QPoint top = dirs->visualItemRect(dirs->item(0)).center();
+    QTest::mouseClick(dirs->viewport(), Qt::LeftButton, {}, top);
+    EXPECT_EQ(d.dirPath.ListIndex(), -d.dirPath.Depth());
+    QTest::mouseDClick(dirs->viewport(), Qt::LeftButton, {}, top);
+    EXPECT_EQ(d.dirPath.Path(), "/");
+    auto* name = b.WidgetOf(d.txtName);
+    name->setFocus();
+    QTest::keyClicks(name, "Root");
+    QTest::keyClick(name, Qt::Key_Return);  // Add is the default button
+    EXPECT_EQ(d.lstVariable.ListCount(), 1);
+    QTest::mouseClick(qobject_cast<QPushButton*>(b.WidgetOf(d.cmdOk)), Qt::LeftButton);
+  });
+  action(form->mnuDefineItem[4])->trigger();
+  EXPECT_EQ(kq::RTrimZ(kq::View(kq::PrgHdr.Path[0][3].PathName)), "Root");
+  EXPECT_EQ(kq::RTrimZ(kq::View(kq::PrgHdr.Path[0][3].PathText)), "/");
+  fs::current_path(cwd);
 }
 
 }  // namespace

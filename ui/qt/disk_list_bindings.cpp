@@ -1,7 +1,6 @@
 #include "ui/qt/disk_list_bindings.h"
 
-#include <QApplication>
-
+#include "ui/platform/platform.h"
 #include "ui/qt/cp1252.h"
 
 namespace ui::qt {
@@ -12,7 +11,7 @@ DriveBinding::DriveBinding(DriveListBox& drive, QWidget* parent)
     : ControlBinding(drive, new QComboBox(parent)), drive_(drive) {
   QObject::connect(combo(), &QComboBox::activated, this, [this](int index) {
     if (syncing_ || !drive_.Usable()) return;
-    if (drive_.UserPath(drive_.List(index)) != 0) QApplication::beep();
+    if (drive_.UserPath(drive_.List(index)) != 0) ui::platform().Beep();
     Refresh();
   });
   Refresh();
@@ -41,7 +40,7 @@ DirBinding::DirBinding(DirListBox& dir, QWidget* parent)
   QObject::connect(l, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem* item) {
     if (syncing_ || !dir_.Usable()) return;
     const int index = list()->row(item) - dir_.Depth();
-    if (dir_.UserOpen(index) != 0) QApplication::beep();
+    if (dir_.UserOpen(index) != 0) ui::platform().Beep();
     dir_.RaiseDblClick();
     Refresh();
   });
