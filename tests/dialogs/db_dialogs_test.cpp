@@ -1,5 +1,4 @@
 #include <memory>
-#include <set>
 
 #include "dialogs/dialogs.h"
 #include "dialogs/frm_connect_tbl.h"
@@ -11,6 +10,7 @@
 #include "dialogs/table_dialog.h"
 #include "dialogs/where_dialog.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/support/layout_check.h"
 
 namespace kqtest {
 namespace {
@@ -319,31 +319,12 @@ TEST_F(WhereTest, AValueKeyOfNoRowEndsTheProgram) {
 
 // ---- Opening, and the layouts
 
-void ExpectLaidOut(const ui::Form& form) {
-  std::set<const ui::Control*> placed;
-  std::set<std::pair<int, int>> cells;
-  for (const ui::LayoutItem& item : form.layout().Items()) {
-    EXPECT_TRUE(placed.insert(item.control).second) << item.control->Name();
-    for (int r = item.row; r < item.row + item.rowSpan; ++r) {
-      for (int c = item.column; c < item.column + item.columnSpan; ++c) {
-        EXPECT_TRUE(cells.insert({r, c}).second) << form.Name() << " " << r << "," << c;
-      }
-    }
-  }
-  for (const ui::Control* c : form.Controls()) {
-    if (!c->Visible()) continue;
-    EXPECT_TRUE(placed.count(c)) << form.Name() << "." << c->Name();
-  }
-  EXPECT_GT(form.Width(), 0);
-  EXPECT_GT(form.Height(), 0);
-}
-
 TEST_F(DbDialogTest, EveryFunctionOpensItsDialogAndEveryFormIsLaidOut) {
-  ExpectLaidOut(kq::frmDefDBTbl());
+  kq::test::ExpectLaidOut(kq::frmDefDBTbl());
   for (int funcNo : {24, 25, 26, 27, 28, 29, 30, 31, 32, 33, 34, 38, 39, 40}) {
     Run(funcNo, [&](kq::FuncDialog& d) {
       EXPECT_EQ(d.FunctionNumber(), funcNo);
-      ExpectLaidOut(d);
+      kq::test::ExpectLaidOut(d);
     });
   }
   EXPECT_EQ(p.CountOf("msgbox"), 0);

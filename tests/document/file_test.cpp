@@ -13,7 +13,7 @@
 #include "document/kqx_format.h"
 #include "document/state.h"
 #include "document/text.h"
-#include "tests/document/doc_fixture.h"
+#include "tests/support/doc_fixture.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include "document/file.h"
 #include "document/state.h"
 #include "editor/listing.h"
-#include "tests/editor/doc_builder.h"
+#include "tests/support/doc_builder.h"
 
 namespace kq::test {
 namespace {

@@ -10,8 +10,8 @@
 #include "editor/commands.h"
 #include "editor/compile.h"
 #include "editor/compile_index.h"
-#include "tests/editor/doc_builder.h"
-#include "tests/editor/record_layouts.h"
+#include "tests/support/doc_builder.h"
+#include "tests/support/record_layouts.h"
 
 namespace kq::test {
 namespace {

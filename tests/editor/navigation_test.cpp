@@ -14,7 +14,8 @@
 #include "editor/frm_label.h"
 #include "editor/frm_line_no.h"
 #include "editor/navigation.h"
-#include "tests/editor/doc_builder.h"
+#include "tests/support/doc_builder.h"
+#include "tests/support/layout_check.h"
 #include "ui/model/controls.h"
 
 namespace kq::test {
@@ -266,30 +267,6 @@ TEST_F(NavigationTest, PathDialogListsTheNamesOfTheChosenType) {
 
 namespace kq::test {
 namespace {
-
-// The desktop binding builds each dialog from its layout: every visible control has one
-// cell of its own (frames hold their own grids).
-void ExpectLaidOut(const ui::Form& form) {
-  std::set<const ui::Control*> placed;
-  std::function<void(const ui::Layout&)> collect = [&](const ui::Layout& layout) {
-    std::set<std::pair<int, int>> cells;
-    for (const ui::LayoutItem& item : layout.Items()) {
-      EXPECT_TRUE(placed.insert(item.control).second) << item.control->Name();
-      for (int r = item.row; r < item.row + item.rowSpan; ++r) {
-        for (int c = item.column; c < item.column + item.columnSpan; ++c) {
-          EXPECT_TRUE(cells.insert({r, c}).second) << form.Name() << " cell " << r << "," << c;
-        }
-      }
-      if (item.control->Kind() == ui::ControlKind::Frame) {
-        collect(static_cast<const ui::Frame*>(item.control)->layout());
-      }
-    }
-  };
-  collect(form.layout());
-  for (const ui::Control* c : form.Controls()) {
-    EXPECT_EQ(placed.count(c), c->Visible() ? 1u : 0u) << form.Name() << "." << c->Name();
-  }
-}
 
 TEST_F(NavigationTest, EveryDialogDeclaresItsLayout) {
   ExpectLaidOut(frmLineNo());

@@ -10,7 +10,7 @@
 #include "editor/commands.h"
 #include "editor/listing.h"
 #include "editor/printing.h"
-#include "tests/editor/doc_builder.h"
+#include "tests/support/doc_builder.h"
 
 namespace kq::test {
 namespace {
@@ -113,28 +113,23 @@ class CallLog : public ui::HeadlessPlatform {
   std::vector<std::string> calls;
 };
 
-TEST_F(PrintingTest, EveryCopyEndsItsOwnDocument) {
-  Remarks(30);  // two pages
-  CallLog log;
-  ui::SetPlatform(&log);
-  PrintListingRows(FileRows(), "t", 0, 0, 3);
-  ui::SetPlatform(&platform);
-  const std::vector<std::string> copy = {"row", "newpage", "row", "enddoc"};
-  std::vector<std::string> expected;
-  for (int i = 0; i < 3; ++i) expected.insert(expected.end(), copy.begin(), copy.end());
-  EXPECT_EQ(log.calls, expected);
-}
-
-TEST_F(PrintingTest, RangeStartingLaterOpensNoPageBeforeItsFirst) {
-  Remarks(90);  // 187 rows: four pages
-  CallLog log;
-  ui::SetPlatform(&log);
-  PrintListingRows(FileRows(), "t", 3, 4, 2);
-  ui::SetPlatform(&platform);
-  const std::vector<std::string> copy = {"row", "newpage", "row", "enddoc"};
-  std::vector<std::string> expected;
-  for (int i = 0; i < 2; ++i) expected.insert(expected.end(), copy.begin(), copy.end());
-  EXPECT_EQ(log.calls, expected);
+TEST_F(PrintingTest, EveryCopyEndsItsOwnDocumentAndARangeOpensNoPageBeforeItsFirst) {
+  struct Case {
+    int remarks, first, last, copies;
+  } cases[] = {{30, 0, 0, 3},   // 67 rows: two pages, three copies
+               {90, 3, 4, 2}};  // 187 rows: four pages, the last two twice
+  for (const Case& c : cases) {
+    list().Clear();
+    Remarks(c.remarks);
+    CallLog log;
+    ui::SetPlatform(&log);
+    PrintListingRows(FileRows(), "t", c.first, c.last, c.copies);
+    ui::SetPlatform(&platform);
+    const std::vector<std::string> copy = {"row", "newpage", "row", "enddoc"};
+    std::vector<std::string> expected;
+    for (int i = 0; i < c.copies; ++i) expected.insert(expected.end(), copy.begin(), copy.end());
+    EXPECT_EQ(log.calls, expected) << c.remarks;
+  }
 }
 
 TEST_F(PrintingTest, CopiesRepeatEveryPage) {
