@@ -15,10 +15,6 @@
 namespace kqtest {
 namespace {
 
-std::string Name17(const std::string& name) {
-  return name + std::string(17 - name.size(), ' ');
-}
-
 class DbDialogTest : public DialogTest {
  protected:
   void SetUp() override {
@@ -34,46 +30,10 @@ class DbDialogTest : public DialogTest {
     AddLine("Busy", 13);
     AddLine("Err", 13);
   }
-  // Runs function funcNo's dialog through GetFuncParm with act driving it.
-  void Run(int funcNo, const std::function<void(kq::FuncDialog&)>& act) {
-    if (!kq::FuncModify) PrepareNew(funcNo);
-    bool shown = false;
-    p.QueueModal("", [&](ui::Form& f) {
-      shown = true;
-      auto& d = dynamic_cast<kq::FuncDialog&>(f);
-      act(d);
-      if (f.Loaded()) d.cmdCancel.UserClick();
-    });
-    kq::GetFuncParm(funcNo);
-    ASSERT_TRUE(shown);
-  }
   static ui::ComboBox& Combo(ui::Form& f, const std::string& name, int index = -1) {
     return *dynamic_cast<ui::ComboBox*>(f.FindControl(name, index));
   }
-  // Ok is refused with one beep, no box, the focus on focus.
-  void ExpectRefused(kq::FuncDialog& d, const std::string& focus) {
-    const int beeps = p.CountOf("beep");
-    const int boxes = p.CountOf("msgbox");
-    d.cmdOk.UserClick();
-    EXPECT_TRUE(d.Loaded());
-    EXPECT_FALSE(kq::FuncOk);
-    EXPECT_EQ(p.CountOf("beep"), beeps + 1);
-    EXPECT_EQ(p.CountOf("msgbox"), boxes);
-    EXPECT_EQ(LastFocus(), focus);
-  }
-  static std::vector<std::string> Items(const ui::ComboBox& c) {
-    std::vector<std::string> out;
-    for (int i = 0; i < c.ListCount(); ++i) out.push_back(kq::RTrim(c.List(i)));
-    return out;
-  }
 };
-
-kq::VarRef Const(int32_t type, const std::string& text) {
-  kq::VarRef v;
-  v.VarRefType = type;
-  kq::SetField(v.VarRefName, text);
-  return v;
-}
 
 // ---- Connect Table
 
@@ -249,9 +209,9 @@ TEST_F(WhereTest, RowsFollowTheTypeOfTheirField) {
             (std::vector<int32_t>{3, 1, 2, 0, 0}));
   EXPECT_EQ(std::vector<int32_t>(r.WhereOperator, r.WhereOperator + 5),
             (std::vector<int32_t>{1, 4, 0, 0, 0}));
-  EXPECT_EQ(Bytes(r.WhereValue[0]), Bytes(Const(10, "a.b")));
-  EXPECT_EQ(Bytes(r.WhereValue[1]), Bytes(Const(8, "-7")));
-  EXPECT_EQ(Bytes(r.WhereValue[2]), Bytes(Const(9, "25")));
+  EXPECT_EQ(Bytes(r.WhereValue[0]), Bytes(Var(10, "a.b")));
+  EXPECT_EQ(Bytes(r.WhereValue[1]), Bytes(Var(8, "-7")));
+  EXPECT_EQ(Bytes(r.WhereValue[2]), Bytes(Var(9, "25")));
   EXPECT_EQ(Bytes(r.WhereValue[3]), Bytes(init.WhereValue[3]));
 }
 
@@ -279,7 +239,7 @@ TEST_F(WhereTest, ModifyLoadsTheRowsOfTheLine) {
   kq::SetField(r.TableName, "Orders");
   r.WhereField[1] = 3;
   r.WhereOperator[1] = 4;  // not a String operator any more
-  r.WhereValue[1] = Const(10, "x y");
+  r.WhereValue[1] = Var(10, "x y");
   r.WhereField[3] = 2;
   r.WhereOperator[3] = 5;
   r.WhereValue[3] = kq::PrgHdr.Variable[0];

@@ -29,12 +29,6 @@ class ServicesTest : public DialogTest {
     for (int i = 0; i < c.ListCount(); ++i) out.push_back(c.List(i));
     return out;
   }
-  static VarRef Var(int32_t type, const std::string& name) {
-    VarRef v;
-    v.VarRefType = type;
-    kq::SetField(v.VarRefName, name);
-    return v;
-  }
   Host host;
 };
 

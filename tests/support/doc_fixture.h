@@ -11,17 +11,14 @@
 #include "document/byte_reader.h"
 #include "document/header.h"
 #include "document/records.h"
+#include "tests/support/doc_builder.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 
 namespace kqtest {
 
-class ListHost : public ui::Form {
- public:
-  ListHost() : Form("frmEdit", "Editor") {}
-  ui::ListBox lstEdit{*this, "lstEdit"};
-};
+;
 
 // Fills the record image of function funcNo with bytes that depend on the seed.
 void FillRecord(int funcNo, uint32_t seed, uint8_t* image);
@@ -60,7 +57,7 @@ class DocTest : public ::testing::Test {
   ui::ListBox& list() { return host_.lstEdit; }
 
   ui::HeadlessPlatform platform_;
-  ListHost host_;
+  kq::test::EditHost host_;
   std::string dir_;
 };
 
