@@ -126,13 +126,6 @@ TEST_F(EditorTest, CloseWritesTheWindowSettingsAsSixteenBitNumbers) {
 
 // ---- Speech formats
 
-TEST_F(EditorTest, AStoredFormatWithoutAnItemEndsTheProgram) {
-  Settings()["SpeechAudioFormat"] = "5";
-  EXPECT_THROW(Start(), ui::ProgramEnded);
-  EXPECT_EQ("Illegal speech format = 5 in mnuSpeechItem_Click() in frmEdit.",
-            ui::LastProgramError());
-}
-
 TEST_F(EditorTest, ChoosingAFormatMovesTheCheckAndWritesTheCode) {
   Settings()["SpeechAudioFormat"] = "1";
   FrmEdit& f = Start();
@@ -351,26 +344,6 @@ TEST_F(EditorTest, ExitWritesTheSettingsAndKeepsTheWindow) {
   EXPECT_EQ("21600", Settings()["frmEditWidthPosition"]);
   EXPECT_TRUE(f.Loaded());
   EXPECT_EQ(1, f.lstEdit.ListCount());
-}
-
-TEST_F(EditorTest, UnloadClosesNothingButTheWindowDoes) {
-  FrmEdit& f = Start();
-  f.mnuFileItem[0].UserClick();
-  PutLines(1);
-  ChangedFlag = false;
-  platform_.QueueAnswer(ui::vbNo);
-  bool cancel = false;
-  f.ConfirmChangedFile("Unload", cancel);
-  EXPECT_FALSE(cancel);
-  EXPECT_EQ("temp.kqx", ApplFileTitle);
-  EXPECT_EQ((std::vector<std::string>{"Confirm Unload"}), BoxTitles());
-
-  platform_.QueueAnswer(ui::vbCancel);
-  EXPECT_FALSE(f.Close());
-  EXPECT_TRUE(f.Loaded());
-  platform_.QueueAnswer(ui::vbNo);
-  EXPECT_TRUE(f.Close());
-  EXPECT_FALSE(f.Loaded());
 }
 
 // ---- Recent files
