@@ -54,7 +54,6 @@ class frmMain : public ui::Form {
       asked = ask.answered;
       ui::platform().MsgBox("Asked " + asked, ui::vbYesNo | ui::vbQuestion, "Result");
     };
-    cmdFail.OnClick = [] { ui::ProgramError("Impossible state in frmMain."); };
     mnuTools.SetEnabled(false);
     mnuTools.Append(mnuToolsItem);
     AddMenu(mnuTools);
@@ -68,7 +67,6 @@ class frmMain : public ui::Form {
   ui::CommandButton cmdOff{*this, "cmdOff", "Off"};
   ui::CommandButton cmdHidden{*this, "cmdHidden", "Hidden"};
   ui::CommandButton cmdAsk{*this, "cmdAsk", "Ask"};
-  ui::CommandButton cmdFail{*this, "cmdFail", "Fail"};
   ui::Menu mnuTools{*this, "mnuTools", "&Tools"};
   ui::Menu mnuToolsItem{*this, "mnuToolsItem", "&Run", 0};
   std::string asked;
@@ -209,13 +207,6 @@ TEST_F(ScriptRunner, TheLinesAfterAModalDialogActInItUntilItUnloads) {
             platform_->EventsOf("refused")[0].fields["reason"].Str());
 }
 
-TEST_F(ScriptRunner, ADialogLeftOpenAtTheEndIsAWrongScript) {
-  EXPECT_EQ(ui::kScriptWrong, Run("frmMain.cmdAsk.Click\n  frmAsk.txtValue.Type \"1\"\n"));
-  const auto errors = platform_->EventsOf("error");
-  ASSERT_EQ(1u, errors.size());
-  EXPECT_EQ(2, errors[0].fields["line"].Int());
-}
-
 TEST_F(ScriptRunner, WrongLinesStopTheScriptWithTheirLineNumber) {
   const std::vector<std::pair<std::string, std::string>> cases = {
       {"frmMain.cmdNone.Click", "unknown control frmMain.cmdNone"},
@@ -252,14 +243,6 @@ TEST_F(ScriptRunner, WordsOutsideQuotesAreTurnedIntoTheCodePageToo) {
     EXPECT_EQ("{\"event\":\"error\",\"line\":1,\"message\":\"" + message + "\"}", Lines().back())
         << line;
   }
-}
-
-TEST_F(ScriptRunner, AProgramErrorEndsTheRunWithStatusTwo) {
-  EXPECT_EQ(ui::kScriptProgramEnded, Run("frmMain.cmdFail.Click\nfrmMain.txtName.Text \"x\"\n"));
-  const auto lines = Lines();
-  ASSERT_GE(lines.size(), 2u);
-  EXPECT_EQ("{\"event\":\"programend\",\"text\":\"Impossible state in frmMain.\"}", lines.back());
-  EXPECT_EQ("", form_->txtName.Text());
 }
 
 TEST_F(ScriptRunner, ShowAndDumpPrintStates) {
