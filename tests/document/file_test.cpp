@@ -313,15 +313,6 @@ TEST_F(FileTest, SaveIntoAMissingFolderGivesThePathBox) {
   EXPECT_EQ(LastBoxText(), "Path do not exist.");
 }
 
-}  // namespace
-
-namespace {
-
-using namespace kq;
-using kqtest::DocTest;
-using kqtest::ReadBytes;
-using kqtest::Snapshot;
-
 class FileErrorTest : public DocTest {
  protected:
   std::string LastBox(const char* field = "text") {
@@ -397,12 +388,6 @@ TEST_F(FileErrorTest, SavePartWithoutASelectionWritesNothing) {
   EXPECT_EQ(platform_.MousePointer(), 0);
 }
 
-}  // namespace
-
-namespace {
-
-using namespace kq;
-
 // Bytes behind the largest possible application are never read: a huge file chosen by
 // mistake cannot exhaust the memory.
 TEST_F(FileErrorTest, ReadsStopAtTheLargestApplication) {
@@ -424,12 +409,6 @@ TEST_F(FileErrorTest, ReadsStopAtTheLargestApplication) {
   EXPECT_EQ(kqtest::Open(path, "tail.kqx"), "tail.kqx");
   EXPECT_EQ(list().ListCount(), 2);
 }
-
-}  // namespace
-
-namespace {
-
-using namespace kq;
 
 // Saving over a file marked read-only is refused as write-protected, as writing into
 // the file would be, and the file stays as it was.

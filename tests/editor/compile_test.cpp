@@ -31,6 +31,21 @@ class CompileTest : public ::testing::Test, public DocFixture {
     return {boxes[0].fields["title"].Str(), boxes[0].fields["text"].Str()};
   }
   std::vector<int> Selected() { return list().SelectedIndexes(); }
+  // A record of function f whose every reference is satisfied: variables hold constants,
+  // flags are on, path types are pathType, path names path and table names "T".
+  static Rec Satisfied(int f, int32_t pathType, const std::string& path) {
+    Rec r(f);
+    for (const FieldSpec& s : RecordFields(f)) {
+      for (int i = 0; i < s.count; ++i) {
+        if (s.kind == FieldSpec::Var) r.Var(s.offset + 32 * i, kConstLong, "1");
+        if (s.kind == FieldSpec::Flag) r.I32(s.offset + 4 * i, 1);
+        if (s.kind == FieldSpec::PathType) r.I32(s.offset, pathType);
+        if (s.kind == FieldSpec::Text && s.width == 28) r.Text(s.offset + 28 * i, 28, path);
+        if (s.kind == FieldSpec::Text && s.width == 16) r.Text(s.offset + 16 * i, 16, "T");
+      }
+    }
+    return r;
+  }
   std::string ProgramErrorOf(bool (*run)()) {
     try {
       run();
@@ -338,12 +353,6 @@ TEST_F(CompileTest, CompileCommandSetsTheFlags) {
   EXPECT_FALSE(ChangedFlag);
 }
 
-}  // namespace
-}  // namespace kq::test
-
-namespace kq::test {
-namespace {
-
 // Every label field of every live function names the label of line 0: after UpdateLabels
 // each carries 0, except the out-of-range label of Insert Record, which compile leaves
 // alone; no other byte of any record changes.
@@ -378,12 +387,6 @@ TEST_F(CompileTest, UpdateLabelsResolvesEveryLabelField) {
     EXPECT_EQ(after.bytes, expected.bytes) << "function " << after.funcNo;
   }
 }
-
-}  // namespace
-}  // namespace kq::test
-
-namespace kq::test {
-namespace {
 
 // Which VarRef fields the variable pass checks, by function: each field of the record in
 // turn names an undeclared variable while all others hold constants, every flag is on and
@@ -435,16 +438,7 @@ TEST_F(CompileTest, VariablePassChecksExactlyTheListedFields) {
       list().Clear();
       for (int t = 0; t < 5; ++t) DeclarePath(kPathExport + t, 0, "P", "/p/");
       DeclareTable(0, "T");
-      Rec r(f);
-      for (const FieldSpec& s : RecordFields(f)) {
-        for (int i = 0; i < s.count; ++i) {
-          if (s.kind == FieldSpec::Var) r.Var(s.offset + 32 * i, kConstLong, "1");
-          if (s.kind == FieldSpec::Flag) r.I32(s.offset + 4 * i, 1);
-          if (s.kind == FieldSpec::PathType) r.I32(s.offset, kPathExport);
-          if (s.kind == FieldSpec::Text && s.width == 28) r.Text(s.offset + 28 * i, 28, "P");
-          if (s.kind == FieldSpec::Text && s.width == 16) r.Text(s.offset + 16 * i, 16, "T");
-        }
-      }
+      Rec r = Satisfied(f, kPathExport, "P");
       if (f == 3) r.Label(68, "Here");
       if (f == 16) r.Text(124, 28, "P");
       r.Var(o, kVarLong, "Nope");
@@ -461,12 +455,6 @@ TEST_F(CompileTest, VariablePassChecksExactlyTheListedFields) {
     }
   }
 }
-
-}  // namespace
-}  // namespace kq::test
-
-namespace kq::test {
-namespace {
 
 // Which path variables the path pass checks, and against which path type: each type has
 // a name of its own ("PA" to "PE"); a record whose fields name the path of the listed type
@@ -491,15 +479,7 @@ TEST_F(CompileTest, PathPassChecksEveryPathFieldAgainstItsType) {
     for (int t = 0; t < 5; ++t)
       DeclarePath(kPathExport + t, 0, std::string("P") + char('A' + t), "/p/");
     DeclareTable(0, "T");
-    Rec r(f);
-    for (const FieldSpec& s : RecordFields(f)) {
-      for (int i = 0; i < s.count; ++i) {
-        if (s.kind == FieldSpec::Var) r.Var(s.offset + 32 * i, kConstLong, "1");
-        if (s.kind == FieldSpec::Flag) r.I32(s.offset + 4 * i, 1);
-        if (s.kind == FieldSpec::PathType) r.I32(s.offset, kPathNumber);
-        if (s.kind == FieldSpec::Text && s.width == 16) r.Text(s.offset + 16 * i, 16, "T");
-      }
-    }
+    Rec r = Satisfied(f, kPathNumber, "");
     for (const auto& [o, name] : paths.at(f)) r.Text(o, 28, o == nope ? "Nope" : name);
     Add("", r);
     platform.ClearEvents();
@@ -521,12 +501,6 @@ TEST_F(CompileTest, PathPassChecksEveryPathFieldAgainstItsType) {
   EXPECT_TRUE(Compile());
 }
 
-}  // namespace
-}  // namespace kq::test
-
-namespace kq::test {
-namespace {
-
 // The table pass: the functions 24 to 34, 38, 39, 40 name their table at 0, Prototype at
 // 596; other 16-character texts (the voice files of Say Number and Voice) are no tables.
 TEST_F(CompileTest, TablePassChecksTheTableNames) {
@@ -538,14 +512,7 @@ TEST_F(CompileTest, TablePassChecksTheTableNames) {
       ResetDocument();
       list().Clear();
       for (int t = 0; t < 5; ++t) DeclarePath(kPathExport + t, 0, "P", "/p/");
-      Rec r(f);
-      for (const FieldSpec& v : RecordFields(f)) {
-        for (int i = 0; i < v.count; ++i) {
-          if (v.kind == FieldSpec::Var) r.Var(v.offset + 32 * i, kConstLong, "1");
-          if (v.kind == FieldSpec::PathType) r.I32(v.offset, kPathExport);
-          if (v.kind == FieldSpec::Text && v.width == 28) r.Text(v.offset + 28 * i, 28, "P");
-        }
-      }
+      Rec r = Satisfied(f, kPathExport, "P");
       r.Text(s.offset, 16, "Nope");
       Add("", r);
       platform.ClearEvents();

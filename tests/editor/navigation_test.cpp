@@ -119,12 +119,6 @@ TEST_F(NavigationTest, FunctionDialogOffersOnlyUsedFunctions) {
   GotoCommand(2);
 }
 
-}  // namespace
-}  // namespace kq::test
-
-namespace kq::test {
-namespace {
-
 TEST_F(NavigationTest, EveryDialogDeclaresItsLayout) {
   ExpectLaidOut(frmLineNo());
   ExpectLaidOut(frmLabel());
