@@ -55,6 +55,11 @@ class DocTest : public ::testing::Test {
   void TearDown() override;
   std::string TempPath(const std::string& name) const;
   ui::ListBox& list() { return host_.lstEdit; }
+  // A field of the last message box, "" when none was shown.
+  std::string LastBox(const char* field = "text") const {
+    auto boxes = platform_.EventsOf("msgbox");
+    return boxes.empty() ? "" : boxes.back().fields[field].Str();
+  }
 
   ui::HeadlessPlatform platform_;
   kq::test::EditHost host_;
