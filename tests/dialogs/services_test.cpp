@@ -1,9 +1,12 @@
 #include "dialogs/services.h"
 #include "dialogs/dialogs.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/support/test_text.h"
 
 namespace kqtest {
 namespace {
+
+using kq::test::ProgramErrorOf;
 
 using kq::VarRef;
 
@@ -16,14 +19,6 @@ class Host : public ui::Form {
 
 class ServicesTest : public DialogTest {
  protected:
-  std::string ProgramErrorOf(const std::function<void()>& f) {
-    try {
-      f();
-    } catch (const ui::ProgramEnded& e) {
-      return e.what();
-    }
-    return "(no program error)";
-  }
   std::vector<std::string> Items(const ui::ComboBox& c) {
     std::vector<std::string> out;
     for (int i = 0; i < c.ListCount(); ++i) out.push_back(c.List(i));

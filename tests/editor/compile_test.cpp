@@ -12,6 +12,7 @@
 #include "editor/compile_index.h"
 #include "tests/support/doc_builder.h"
 #include "tests/support/record_layouts.h"
+#include "tests/support/test_text.h"
 
 namespace kq::test {
 namespace {
@@ -45,14 +46,6 @@ class CompileTest : public ::testing::Test, public DocFixture {
       }
     }
     return r;
-  }
-  std::string ProgramErrorOf(bool (*run)()) {
-    try {
-      run();
-    } catch (const ui::ProgramEnded& e) {
-      return e.what();
-    }
-    return "";
   }
 };
 
@@ -189,13 +182,13 @@ TEST_F(CompileTest, WhereConditionsCheckTheColumnThenTheValue) {
 
 TEST_F(CompileTest, WhereConditionOnAnUndeclaredTableEndsTheProgram) {
   Add("", Rec(34).Text(0, 16, "Nowhere").I32(36, 1).Var(76, kConstLong, "1"));
-  EXPECT_EQ(ProgramErrorOf(&Compile), "Subscript out of range");
+  EXPECT_EQ(ProgramErrorOf([] { Compile(); }), "Subscript out of range");
 }
 
 TEST_F(CompileTest, IllegalVariableTypeEndsTheProgram) {
   Add("", Rec(45).Var(0, kVarNone, "Zap"));
-  EXPECT_EQ(ProgramErrorOf(&Compile), "Illegal variable type 'Zap" + std::string(25, ' ') +
-                                          "' in line  0 in Global DefinedVarMsgFunc.");
+  EXPECT_EQ(ProgramErrorOf([] { Compile(); }), "Illegal variable type 'Zap" + std::string(25, ' ') +
+                                                   "' in line  0 in Global DefinedVarMsgFunc.");
 }
 
 TEST_F(CompileTest, UndeclaredPathIsReportedWithoutLineNumber) {
@@ -220,14 +213,16 @@ TEST_F(CompileTest, EmptyPathNameIsNotDefined) {
 
 TEST_F(CompileTest, PathOfNoTypeEndsTheProgram) {
   Add("", Rec(49).Text(4, 28, "P"));
-  EXPECT_EQ(ProgramErrorOf(&Compile), std::string("Illegal path variable type 'P ") +
-                                          "' with value -1 in Global DefinedPathMsgVariable.");
+  EXPECT_EQ(ProgramErrorOf([] { Compile(); }),
+            std::string("Illegal path variable type 'P ") +
+                "' with value -1 in Global DefinedPathMsgVariable.");
 }
 
 TEST_F(CompileTest, PathTypeAboveTheLettersEndsTheProgramWithTheNumberAsConverted) {
   Add("", Rec(49).I32(0, 70).Text(4, 28, "P"));
-  EXPECT_EQ(ProgramErrorOf(&Compile), std::string("Illegal path variable type 'P ") +
-                                          "' with value  70 in Global DefinedPathMsgVariable.");
+  EXPECT_EQ(ProgramErrorOf([] { Compile(); }),
+            std::string("Illegal path variable type 'P ") +
+                "' with value  70 in Global DefinedPathMsgVariable.");
 }
 
 TEST_F(CompileTest, UndeclaredTableComesAfterVariablesAndPaths) {
@@ -316,10 +311,11 @@ TEST_F(CompileTest, CheckFileLabelsResolveInPlace) {
 TEST_F(CompileTest, IllegalFunctionNumbersEndTheProgram) {
   Add("", Rec(13));
   LineTable[0].LineFuncNo = 60;
-  EXPECT_EQ(ProgramErrorOf(&Compile),
+  EXPECT_EQ(ProgramErrorOf([] { Compile(); }),
             "Illegal Function Number 60 in frmEdit - UnDefinedMsgVariables");
   LineTable[0].LineFuncNo = 22;  // an empty slot passes the first two passes
-  EXPECT_EQ(ProgramErrorOf(&Compile), "Illegal Function Number in frmEdit - UndefinedDatabase");
+  EXPECT_EQ(ProgramErrorOf([] { Compile(); }),
+            "Illegal Function Number in frmEdit - UndefinedDatabase");
 }
 
 TEST_F(CompileTest, SecondCompileGivesTheSameNumbersAndAnInsertedLineMovesThem) {

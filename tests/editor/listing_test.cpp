@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -13,6 +14,7 @@
 #include "document/state.h"
 #include "editor/listing.h"
 #include "tests/support/doc_builder.h"
+#include "tests/support/test_text.h"
 
 namespace kq::test {
 namespace {
@@ -60,11 +62,8 @@ class ListingTest : public ::testing::Test, public DocFixture {
     if (std::getenv("KQ_UPDATE_GOLDEN") != nullptr) {
       std::ofstream(path, std::ios::binary) << actual;
     }
-    std::ifstream in(path, std::ios::binary);
-    ASSERT_TRUE(in) << path;
-    std::stringstream want;
-    want << in.rdbuf();
-    EXPECT_EQ(actual, want.str()) << path;
+    ASSERT_TRUE(std::filesystem::exists(path)) << path;
+    EXPECT_EQ(actual, ReadText(path)) << path;
   }
   void ExpectRows(const std::vector<std::string>& expected) {
     const std::vector<std::string> rows = Rows();

@@ -12,6 +12,7 @@
 #include "editor/listing.h"
 #include "editor/printing.h"
 #include "tests/support/doc_builder.h"
+#include "tests/support/test_text.h"
 
 namespace kq::test {
 namespace {
@@ -99,10 +100,7 @@ TEST_F(PrintingTest, PrintCommandWritesTheListingFileThenPrints) {
   Remarks(3);
   platform.QueuePrint(ui::PrintDialogRequest{0, 0, 1, 0});
   PrintCommand();
-  std::ifstream in(dir / "app.TXT", std::ios::binary);
-  std::stringstream text;
-  text << in.rdbuf();
-  const std::string file = text.str();
+  const std::string file = ReadText((dir / "app.TXT").string());
   ASSERT_FALSE(file.empty());
   EXPECT_EQ(file.substr(0, 11), "Date/Time: ");
   EXPECT_EQ(file.substr(file.find("\r\n") + 2, 11 + ApplFileName.size() + 2),
@@ -125,10 +123,7 @@ TEST_F(PrintingTest, FaultInTheListingKeepsThePartialFileAndPrintsNothing) {
   Add("", Rec(43).I32(0, 9));
   platform.QueuePrint(ui::PrintDialogRequest{0, 0, 1, 0});
   PrintCommand();
-  std::ifstream in(dir / "app.TXT", std::ios::binary);
-  std::stringstream text;
-  text << in.rdbuf();
-  EXPECT_NE(text.str().find("On/Off Hook"), std::string::npos);
+  EXPECT_NE(ReadText((dir / "app.TXT").string()).find("On/Off Hook"), std::string::npos);
   EXPECT_EQ(platform.CountOf("page"), 0);
   EXPECT_EQ(platform.CountOf("msgbox"), 0);
 }

@@ -8,6 +8,7 @@
 #include <memory>
 #include <sstream>
 
+#include "tests/support/test_text.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/headless/script_runner.h"
 #include "ui/model/controls.h"
@@ -276,13 +277,10 @@ TEST(ScriptRun, SettingsFileIsReadBeforeAndWrittenAfter) {
   std::ostringstream out;
   EXPECT_EQ(0, ui::RunScript(in, out, options, hooks));
   EXPECT_EQ("hello", seen);
-  std::ifstream back(path, std::ios::binary);
-  std::stringstream content;
-  content << back.rdbuf();
   EXPECT_EQ(
       "Answer=\xC6"
       "42\nGreeting=hello\n",
-      content.str());
+      kq::test::ReadText(path.string()));
   EXPECT_EQ("{\"event\":\"show\",\"form\":\"frmMain\"}\n", out.str());
   std::filesystem::remove(path);
 }
