@@ -117,13 +117,13 @@ TEST_F(ServicesTest, OnlyTheMissingDeclarationIsReported) {
 
 TEST_F(ServicesTest, FunctionWithoutDialogYetSaysSoAndChangesNothing) {
   kq::FuncOk = true;
-  kq::FuncLine = "R Switch         ";
-  kq::GetFuncParm(15);
+  kq::FuncLine = "Wait for Key     ";
+  kq::GetFuncParm(20);
   ASSERT_EQ(p.CountOf("msgbox"), 1);
   EXPECT_EQ(p.Events()[0].fields["title"].Str(), "Function");
   EXPECT_EQ(p.Events()[0].fields["text"].Str(), "This function's dialog is not available yet.");
   EXPECT_FALSE(kq::FuncOk);
-  EXPECT_EQ(kq::FuncLine, "R Switch         ");
+  EXPECT_EQ(kq::FuncLine, "Wait for Key     ");
 }
 
 TEST_F(ServicesTest, IllegalFunctionNumbersAreProgramErrors) {
