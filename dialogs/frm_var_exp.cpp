@@ -118,7 +118,7 @@ void frmVarExp::lstExpVariable_DblClick() {
 void frmVarExp::cmdAdd_Click() {
   const int left = lstVariable.ListIndex();
   if (lstExpVariable.ListCount() >= kMaxExportVars) {
-    ui::platform().MsgBox("Maximum number of export variables are" + Str(int64_t{kMaxExportVars}),
+    ui::platform().MsgBox("Maximum number of export variables are " + Str(int64_t{kMaxExportVars}),
                           ui::vbOKOnly | ui::vbExclamation, "Export variable add error");
   } else if (left >= 0) {
     const std::string name = RTrim(lstVariable.List(left));
