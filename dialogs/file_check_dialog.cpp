@@ -31,7 +31,8 @@ int32_t FileCheckDialog::ShownPathType() {
 }
 
 void FileCheckDialog::LoadPath(int32_t pathType, std::string_view pathVar) {
-  GetListBoxPath(cboPath, kPathExport, pathType);
+  // A line saved while its path type was no longer declared holds 0: it shows the first.
+  GetListBoxPath(cboPath, kPathExport, pathType == 0 ? -1 : pathType);
   GetListBoxPathVar(cboPathVar, ShownPathType(), pathVar);
 }
 

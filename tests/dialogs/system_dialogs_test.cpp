@@ -112,6 +112,16 @@ TEST_F(SystemDialogTest, CheckPathNeedsOneOfTheTwoTargets) {
     d.cmdOk.UserClick();
   });
   EXPECT_EQ(kq::FuncLine, Head("", "Check Path") + "Export:  IF Out DO NOT EXISTS THEN Missing");
+  // A line whose path type went undeclared stored none; it opens on the first type.
+  AddLine("", 49);
+  kq::RecordSet rec = kq::InitRecord;
+  rec.CheckPath.PathType = 0;
+  kq::SetField(rec.CheckPath.CheckLabel[0], "Missing");
+  PrepareModify(0, rec);
+  Run<kq::frmCheckPath>(49, [&](kq::frmCheckPath& d) {
+    EXPECT_EQ(d.cboPathVar.Text(), "Out");
+    EXPECT_EQ(d.cboLabel[0].Text(), "Missing");
+  });
 }
 
 TEST_F(SystemDialogTest, CheckFileTakesATypedNameAsAStringConstant) {
