@@ -4,9 +4,12 @@
 #include "dialogs/frm_assign.h"
 #include "dialogs/frm_assign_pa.h"
 #include "dialogs/frm_calculate.h"
+#include "dialogs/frm_check_file.h"
+#include "dialogs/frm_check_path.h"
 #include "dialogs/frm_condition.h"
 #include "dialogs/frm_connect_tbl.h"
 #include "dialogs/frm_delay.h"
+#include "dialogs/frm_delete_file.h"
 #include "dialogs/frm_delete_rec.h"
 #include "dialogs/frm_disconnect_tbl.h"
 #include "dialogs/frm_empty_tbl.h"
@@ -26,13 +29,17 @@
 #include "dialogs/frm_insert_rec.h"
 #include "dialogs/frm_left_str.h"
 #include "dialogs/frm_len_str.h"
+#include "dialogs/frm_prototype.h"
 #include "dialogs/frm_random.h"
 #include "dialogs/frm_remark.h"
 #include "dialogs/frm_return.h"
 #include "dialogs/frm_right_str.h"
+#include "dialogs/frm_run.h"
 #include "dialogs/frm_select_rec.h"
+#include "dialogs/frm_sound_file_counter.h"
 #include "dialogs/frm_trim_str.h"
 #include "dialogs/frm_update_rec.h"
+#include "dialogs/frm_var_exp.h"
 #include "dialogs/func_dialog.h"
 
 namespace kq {
@@ -74,6 +81,8 @@ bool ShowFuncDialog(int funcNo) {
       return Show<frmRemark>();
     case 14:
       return Show<frmReturn>();
+    case 17:
+      return Show<frmVarExp>();
     case 24:
       return Show<frmConnectTbl>();
     case 25:
@@ -116,6 +125,18 @@ bool ShowFuncDialog(int funcNo) {
       return Show<frmLeftStr>();
     case 48:
       return Show<frmInStr>();
+    case 49:
+      return Show<frmCheckPath>();
+    case 50:
+      return Show<frmCheckFile>();
+    case 51:
+      return Show<frmDeleteFile>();
+    case 52:
+      return Show<frmSoundFileCounter>();
+    case 53:
+      return Show<frmRun>();
+    case 55:
+      return Show<frmPrototype>();
     default:
       return false;
   }
