@@ -5,10 +5,13 @@
 #include "dialogs/frm_assign_pa.h"
 #include "dialogs/frm_calculate.h"
 #include "dialogs/frm_call_out.h"
+#include "dialogs/frm_check_file.h"
+#include "dialogs/frm_check_path.h"
 #include "dialogs/frm_condition.h"
 #include "dialogs/frm_connect_tbl.h"
 #include "dialogs/frm_ct_bus_con.h"
 #include "dialogs/frm_delay.h"
+#include "dialogs/frm_delete_file.h"
 #include "dialogs/frm_delete_rec.h"
 #include "dialogs/frm_dial_no.h"
 #include "dialogs/frm_disconnect_tbl.h"
@@ -30,14 +33,18 @@
 #include "dialogs/frm_left_str.h"
 #include "dialogs/frm_len_str.h"
 #include "dialogs/frm_on_off_hook.h"
+#include "dialogs/frm_prototype.h"
 #include "dialogs/frm_r_switch.h"
 #include "dialogs/frm_random.h"
 #include "dialogs/frm_remark.h"
 #include "dialogs/frm_return.h"
 #include "dialogs/frm_right_str.h"
+#include "dialogs/frm_run.h"
 #include "dialogs/frm_select_rec.h"
+#include "dialogs/frm_sound_file_counter.h"
 #include "dialogs/frm_trim_str.h"
 #include "dialogs/frm_update_rec.h"
+#include "dialogs/frm_var_exp.h"
 #include "dialogs/frm_wait_for_call.h"
 #include "dialogs/func_dialog.h"
 
@@ -84,6 +91,8 @@ bool ShowFuncDialog(int funcNo) {
       return Show<frmReturn>();
     case 15:
       return Show<frmRSwitch>();
+    case 17:
+      return Show<frmVarExp>();
     case 19:
       return Show<frmWaitForCall>();
     case 24:
@@ -132,8 +141,20 @@ bool ShowFuncDialog(int funcNo) {
       return Show<frmLeftStr>();
     case 48:
       return Show<frmInStr>();
+    case 49:
+      return Show<frmCheckPath>();
+    case 50:
+      return Show<frmCheckFile>();
+    case 51:
+      return Show<frmDeleteFile>();
+    case 52:
+      return Show<frmSoundFileCounter>();
+    case 53:
+      return Show<frmRun>();
     case 54:
       return Show<frmCTBusCon>();
+    case 55:
+      return Show<frmPrototype>();
     default:
       return false;
   }
