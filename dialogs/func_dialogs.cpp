@@ -4,10 +4,16 @@
 #include "dialogs/frm_assign.h"
 #include "dialogs/frm_assign_pa.h"
 #include "dialogs/frm_calculate.h"
+#include "dialogs/frm_call_out.h"
+#include "dialogs/frm_check_file.h"
+#include "dialogs/frm_check_path.h"
 #include "dialogs/frm_condition.h"
 #include "dialogs/frm_connect_tbl.h"
+#include "dialogs/frm_ct_bus_con.h"
 #include "dialogs/frm_delay.h"
+#include "dialogs/frm_delete_file.h"
 #include "dialogs/frm_delete_rec.h"
+#include "dialogs/frm_dial_no.h"
 #include "dialogs/frm_disconnect_tbl.h"
 #include "dialogs/frm_empty_tbl.h"
 #include "dialogs/frm_get_ch_no.h"
@@ -26,13 +32,20 @@
 #include "dialogs/frm_insert_rec.h"
 #include "dialogs/frm_left_str.h"
 #include "dialogs/frm_len_str.h"
+#include "dialogs/frm_on_off_hook.h"
+#include "dialogs/frm_prototype.h"
+#include "dialogs/frm_r_switch.h"
 #include "dialogs/frm_random.h"
 #include "dialogs/frm_remark.h"
 #include "dialogs/frm_return.h"
 #include "dialogs/frm_right_str.h"
+#include "dialogs/frm_run.h"
 #include "dialogs/frm_select_rec.h"
+#include "dialogs/frm_sound_file_counter.h"
 #include "dialogs/frm_trim_str.h"
 #include "dialogs/frm_update_rec.h"
+#include "dialogs/frm_var_exp.h"
+#include "dialogs/frm_wait_for_call.h"
 #include "dialogs/func_dialog.h"
 
 namespace kq {
@@ -60,6 +73,8 @@ bool ShowFuncDialog(int funcNo) {
       return Show<frmCondition>();
     case 4:
       return Show<frmDelay>();
+    case 5:
+      return Show<frmCallOut>();
     case 6:
       return Show<frmGetDate>();
     case 8:
@@ -74,6 +89,12 @@ bool ShowFuncDialog(int funcNo) {
       return Show<frmRemark>();
     case 14:
       return Show<frmReturn>();
+    case 15:
+      return Show<frmRSwitch>();
+    case 17:
+      return Show<frmVarExp>();
+    case 19:
+      return Show<frmWaitForCall>();
     case 24:
       return Show<frmConnectTbl>();
     case 25:
@@ -98,6 +119,8 @@ bool ShowFuncDialog(int funcNo) {
       return Show<frmUpdateRec>();
     case 36:
       return Show<frmGetDayOfWeek>();
+    case 37:
+      return Show<frmDialNo>();
     case 38:
       return Show<frmGetRecNo>();
     case 39:
@@ -106,6 +129,8 @@ bool ShowFuncDialog(int funcNo) {
       return Show<frmEmptyTbl>();
     case 41:
       return Show<frmGetChNo>();
+    case 43:
+      return Show<frmOnOffHook>();
     case 44:
       return Show<frmTrimStr>();
     case 45:
@@ -116,6 +141,20 @@ bool ShowFuncDialog(int funcNo) {
       return Show<frmLeftStr>();
     case 48:
       return Show<frmInStr>();
+    case 49:
+      return Show<frmCheckPath>();
+    case 50:
+      return Show<frmCheckFile>();
+    case 51:
+      return Show<frmDeleteFile>();
+    case 52:
+      return Show<frmSoundFileCounter>();
+    case 53:
+      return Show<frmRun>();
+    case 54:
+      return Show<frmCTBusCon>();
+    case 55:
+      return Show<frmPrototype>();
     default:
       return false;
   }

@@ -14,6 +14,7 @@
 #include "dialogs/frm_right_str.h"
 #include "dialogs/frm_trim_str.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/dialogs/dialog_values.h"
 
 namespace kqtest {
 namespace {

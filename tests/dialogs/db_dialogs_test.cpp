@@ -10,6 +10,7 @@
 #include "dialogs/table_dialog.h"
 #include "dialogs/where_dialog.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/dialogs/dialog_values.h"
 #include "tests/support/layout_check.h"
 
 namespace kqtest {

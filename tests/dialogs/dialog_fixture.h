@@ -30,7 +30,9 @@ class DialogTest : public ::testing::Test {
  protected:
   void SetUp() override {
     ui::SetPlatform(&p);
-    kq::test::ResetDocument();
+    kq::InitDocument();
+    kq::InitNameTables();
+    kq::GetFuncRecordLength();
     // A working record left over from elsewhere: the dialogs must not depend on it.
     std::memset(&kq::WorkRecord, 0x55, sizeof kq::WorkRecord);
     kq::PrgHdr.CompiledFlag = -1;
@@ -146,29 +148,6 @@ class DialogTest : public ::testing::Test {
   ui::HeadlessPlatform p;
   kq::test::EditHost window;
 };
-
-// A function name as the DisplayLine shows it: 17 characters.
-inline std::string Name17(const std::string& name) {
-  return name + std::string(17 - name.size(), ' ');
-}
-inline kq::VarRef Var(int32_t type, const std::string& name) {
-  kq::VarRef v;
-  v.VarRefType = type;
-  kq::SetField(v.VarRefName, name);
-  return v;
-}
-inline kq::LabelRef Label(const std::string& name, int32_t line = -1) {
-  kq::LabelRef l;
-  kq::SetField(l.LabelRefName, name);
-  l.LabelRefLine = line;
-  return l;
-}
-// A combo's items as a person reads them: variable names stand padded in the list.
-inline std::vector<std::string> Items(const ui::ComboBox& c) {
-  std::vector<std::string> out;
-  for (int i = 0; i < c.ListCount(); ++i) out.push_back(kq::RTrim(c.List(i)));
-  return out;
-}
 
 // The bytes of a record as they will stand in the line's block.
 template <typename T>

@@ -8,6 +8,7 @@
 #include "dialogs/frm_return.h"
 #include "dialogs/services.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/dialogs/dialog_values.h"
 
 namespace kqtest {
 namespace {

@@ -1,6 +1,7 @@
 #include "dialogs/services.h"
 #include "dialogs/dialogs.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/dialogs/dialog_values.h"
 #include "tests/support/test_text.h"
 
 namespace kqtest {
@@ -106,13 +107,13 @@ TEST_F(ServicesTest, OnlyTheMissingDeclarationIsReported) {
 
 TEST_F(ServicesTest, FunctionWithoutDialogYetSaysSoAndChangesNothing) {
   kq::FuncOk = true;
-  kq::FuncLine = "R Switch         ";
-  kq::GetFuncParm(15);
+  kq::FuncLine = "Wait for Key     ";
+  kq::GetFuncParm(20);
   ASSERT_EQ(p.CountOf("msgbox"), 1);
   EXPECT_EQ(p.Events()[0].fields["title"].Str(), "Function");
   EXPECT_EQ(p.Events()[0].fields["text"].Str(), "This function's dialog is not available yet.");
   EXPECT_FALSE(kq::FuncOk);
-  EXPECT_EQ(kq::FuncLine, "R Switch         ");
+  EXPECT_EQ(kq::FuncLine, "Wait for Key     ");
 }
 
 TEST_F(ServicesTest, IllegalFunctionNumbersAreProgramErrors) {
