@@ -12,6 +12,7 @@ std::vector<int16_t> Resample(std::span<const int16_t> samples, int fromRate, in
       static_cast<size_t>((static_cast<uint64_t>(samples.size()) * static_cast<uint64_t>(toRate) +
                            static_cast<uint64_t>(fromRate) / 2) /
                           static_cast<uint64_t>(fromRate));
+  if (wanted == 0) return {};  // shorter than one output sample
   std::vector<int16_t> out(wanted);
   // No dither, so that the same input always gives the same output.
   soxr_io_spec_t io = soxr_io_spec(SOXR_INT16_I, SOXR_INT16_I);

@@ -109,7 +109,9 @@ TEST(Resample, KeepsTheDurationAndTheTone) {
   };
   EXPECT_LT(peak(Resample(Tone(44100, 1.0, 5000), 44100, 8000)), 10);
   EXPECT_LT(peak(Resample(Tone(8000, 1.0, 3600), 8000, 6000)), 10);
-  EXPECT_EQ(Resample(Tone(44100, 0.5), 44100, 11025).size(), 5513u);  // rounded
+  EXPECT_EQ(Resample(Tone(44100, 0.5), 44100, 11025).size(), 5513u);      // rounded
+  EXPECT_TRUE(Resample(std::vector<int16_t>{500}, 22050, 8000).empty());  // under a sample
+  EXPECT_EQ(Resample(std::vector<int16_t>(3, 500), 22050, 8000).size(), 1u);
 }
 
 }  // namespace
