@@ -53,111 +53,123 @@ namespace kq {
 namespace {
 
 template <typename Dialog>
-bool Show() {
+void Show() {
   Dialog dialog;
   dialog.ShowModal();
-  return true;
+}
+
+using ShowFn = void (*)();
+
+ShowFn DialogOf(int funcNo) {
+  switch (funcNo) {
+    case 0:
+      return &Show<frmAssign>;
+    case 1:
+      return &Show<frmAssignPa>;
+    case 2:
+      return &Show<frmCalculate>;
+    case 3:
+      return &Show<frmCondition>;
+    case 4:
+      return &Show<frmDelay>;
+    case 5:
+      return &Show<frmCallOut>;
+    case 6:
+      return &Show<frmGetDate>;
+    case 8:
+      return &Show<frmGetTime>;
+    case 9:
+      return &Show<frmGosub>;
+    case 10:
+      return &Show<frmGoto>;
+    case 11:
+      return &Show<frmRandom>;
+    case 13:
+      return &Show<frmRemark>;
+    case 14:
+      return &Show<frmReturn>;
+    case 15:
+      return &Show<frmRSwitch>;
+    case 17:
+      return &Show<frmVarExp>;
+    case 19:
+      return &Show<frmWaitForCall>;
+    case 24:
+      return &Show<frmConnectTbl>;
+    case 25:
+      return &Show<frmDisconnectTbl>;
+    case 26:
+      return &Show<frmAddRec>;
+    case 27:
+      return &Show<frmDeleteRec>;
+    case 28:
+      return &Show<frmGetFirstRec>;
+    case 29:
+      return &Show<frmSelectRec>;
+    case 30:
+      return &Show<frmInsertRec>;
+    case 31:
+      return &Show<frmGetLastRec>;
+    case 32:
+      return &Show<frmGetNextRec>;
+    case 33:
+      return &Show<frmGetPrevRec>;
+    case 34:
+      return &Show<frmUpdateRec>;
+    case 36:
+      return &Show<frmGetDayOfWeek>;
+    case 37:
+      return &Show<frmDialNo>;
+    case 38:
+      return &Show<frmGetRecNo>;
+    case 39:
+      return &Show<frmGetNoRec>;
+    case 40:
+      return &Show<frmEmptyTbl>;
+    case 41:
+      return &Show<frmGetChNo>;
+    case 43:
+      return &Show<frmOnOffHook>;
+    case 44:
+      return &Show<frmTrimStr>;
+    case 45:
+      return &Show<frmLenStr>;
+    case 46:
+      return &Show<frmRightStr>;
+    case 47:
+      return &Show<frmLeftStr>;
+    case 48:
+      return &Show<frmInStr>;
+    case 49:
+      return &Show<frmCheckPath>;
+    case 50:
+      return &Show<frmCheckFile>;
+    case 51:
+      return &Show<frmDeleteFile>;
+    case 52:
+      return &Show<frmSoundFileCounter>;
+    case 53:
+      return &Show<frmRun>;
+    case 54:
+      return &Show<frmCTBusCon>;
+    case 55:
+      return &Show<frmPrototype>;
+    default:
+      return nullptr;
+  }
 }
 
 }  // namespace
 
+bool HasFuncDialog(int funcNo) {
+  return DialogOf(funcNo) != nullptr;
+}
+
 bool ShowFuncDialog(int funcNo) {
-  switch (funcNo) {
-    case 0:
-      return Show<frmAssign>();
-    case 1:
-      return Show<frmAssignPa>();
-    case 2:
-      return Show<frmCalculate>();
-    case 3:
-      return Show<frmCondition>();
-    case 4:
-      return Show<frmDelay>();
-    case 5:
-      return Show<frmCallOut>();
-    case 6:
-      return Show<frmGetDate>();
-    case 8:
-      return Show<frmGetTime>();
-    case 9:
-      return Show<frmGosub>();
-    case 10:
-      return Show<frmGoto>();
-    case 11:
-      return Show<frmRandom>();
-    case 13:
-      return Show<frmRemark>();
-    case 14:
-      return Show<frmReturn>();
-    case 15:
-      return Show<frmRSwitch>();
-    case 17:
-      return Show<frmVarExp>();
-    case 19:
-      return Show<frmWaitForCall>();
-    case 24:
-      return Show<frmConnectTbl>();
-    case 25:
-      return Show<frmDisconnectTbl>();
-    case 26:
-      return Show<frmAddRec>();
-    case 27:
-      return Show<frmDeleteRec>();
-    case 28:
-      return Show<frmGetFirstRec>();
-    case 29:
-      return Show<frmSelectRec>();
-    case 30:
-      return Show<frmInsertRec>();
-    case 31:
-      return Show<frmGetLastRec>();
-    case 32:
-      return Show<frmGetNextRec>();
-    case 33:
-      return Show<frmGetPrevRec>();
-    case 34:
-      return Show<frmUpdateRec>();
-    case 36:
-      return Show<frmGetDayOfWeek>();
-    case 37:
-      return Show<frmDialNo>();
-    case 38:
-      return Show<frmGetRecNo>();
-    case 39:
-      return Show<frmGetNoRec>();
-    case 40:
-      return Show<frmEmptyTbl>();
-    case 41:
-      return Show<frmGetChNo>();
-    case 43:
-      return Show<frmOnOffHook>();
-    case 44:
-      return Show<frmTrimStr>();
-    case 45:
-      return Show<frmLenStr>();
-    case 46:
-      return Show<frmRightStr>();
-    case 47:
-      return Show<frmLeftStr>();
-    case 48:
-      return Show<frmInStr>();
-    case 49:
-      return Show<frmCheckPath>();
-    case 50:
-      return Show<frmCheckFile>();
-    case 51:
-      return Show<frmDeleteFile>();
-    case 52:
-      return Show<frmSoundFileCounter>();
-    case 53:
-      return Show<frmRun>();
-    case 54:
-      return Show<frmCTBusCon>();
-    case 55:
-      return Show<frmPrototype>();
-    default:
-      return false;
-  }
+  const ShowFn show = DialogOf(funcNo);
+  if (show == nullptr) return false;
+  show();
+  return true;
 }
 
 }  // namespace kq
