@@ -10,38 +10,10 @@
 #include "dialogs/frm_r_switch.h"
 #include "dialogs/frm_wait_for_call.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/dialogs/dialog_values.h"
 
 namespace kqtest {
 namespace {
-
-std::string Head(const std::string& label, const std::string& name) {
-  return "\t" + label + "\t" + name + std::string(17 - name.size(), ' ') + "\t";
-}
-
-kq::VarRef Var(int32_t type, const std::string& name) {
-  kq::VarRef v;
-  v.VarRefType = type;
-  kq::SetField(v.VarRefName, name);
-  return v;
-}
-
-kq::LabelRef Label(const std::string& name, int32_t line = -1) {
-  kq::LabelRef l;
-  kq::SetField(l.LabelRefName, name);
-  l.LabelRefLine = line;
-  return l;
-}
-
-template <size_t N>
-std::string Field(const std::string& text) {
-  char f[N];
-  kq::SetField(f, text);
-  return std::string(f, N);
-}
-
-std::string Int(int32_t v) {
-  return Bytes(v);
-}
 
 class CallDialogTest : public DialogTest {
  protected:
@@ -49,30 +21,6 @@ class CallDialogTest : public DialogTest {
     AddVariable("Count", kq::kVarLong);
     AddVariable("Rate", kq::kVarDouble);
     AddVariable("Name", kq::kVarString);
-  }
-  template <typename D>
-  void Run(int funcNo, const std::function<void(D&)>& act) {
-    if (!kq::FuncModify) PrepareNew(funcNo);
-    bool shown = false;
-    p.QueueModal("", [&](ui::Form& f) {
-      shown = true;
-      D* d = dynamic_cast<D*>(&f);
-      ASSERT_NE(d, nullptr) << f.Name();
-      act(*d);
-      if (f.Loaded()) d->cmdCancel.UserClick();
-    });
-    kq::GetFuncParm(funcNo);
-    ASSERT_TRUE(shown);
-  }
-  template <typename D>
-  void ExpectRefused(D& d, const std::string& focus) {
-    const int beeps = p.CountOf("beep");
-    d.cmdOk.UserClick();
-    EXPECT_TRUE(d.Loaded());
-    EXPECT_FALSE(kq::FuncOk);
-    EXPECT_EQ(p.CountOf("beep"), beeps + 1);
-    EXPECT_EQ(p.CountOf("msgbox"), 0);
-    EXPECT_EQ(LastFocus(), focus);
   }
 };
 

@@ -19,10 +19,6 @@
 namespace kqtest {
 namespace {
 
-std::string Head(const std::string& label, const std::string& name) {
-  return "\t" + label + "\t" + name + std::string(17 - name.size(), ' ') + "\t";
-}
-
 // A combo's text and items as a person reads them: variable names stand padded in the list.
 std::string Shown(const ui::ComboBox& c) {
   return kq::RTrim(c.Text());

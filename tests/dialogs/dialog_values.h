@@ -2,6 +2,7 @@
 // variable or label reference, and a combo's items as a person reads them.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -12,6 +13,20 @@
 
 namespace kqtest {
 
+// The start of a DisplayLine: the label and the function name padded to 17 characters.
+inline std::string Head(const std::string& label, const std::string& name) {
+  return "\t" + label + "\t" + name + std::string(17 - name.size(), ' ') + "\t";
+}
+// A text field of N bytes as it stands in a record, and a 32-bit number's bytes.
+template <size_t N>
+std::string Field(const std::string& text) {
+  char f[N];
+  kq::SetField(f, text);
+  return std::string(f, N);
+}
+inline std::string Int(int32_t n) {
+  return std::string(reinterpret_cast<const char*>(&n), 4);
+}
 // A function name as the DisplayLine shows it: 17 characters.
 inline std::string Name17(const std::string& name) {
   return name + std::string(17 - name.size(), ' ');

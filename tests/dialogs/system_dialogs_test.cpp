@@ -11,37 +11,10 @@
 #include "dialogs/frm_sound_file_counter.h"
 #include "dialogs/frm_var_exp.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/dialogs/dialog_values.h"
 
 namespace kqtest {
 namespace {
-
-std::string Head(const std::string& label, const std::string& name) {
-  return "\t" + label + "\t" + name + std::string(17 - name.size(), ' ') + "\t";
-}
-
-kq::VarRef Var(int32_t type, const std::string& name) {
-  kq::VarRef v;
-  v.VarRefType = type;
-  kq::SetField(v.VarRefName, name);
-  return v;
-}
-
-template <size_t N>
-std::string Field(const std::string& text) {
-  char f[N];
-  kq::SetField(f, text);
-  return std::string(f, N);
-}
-
-std::string Int(int32_t n) {
-  return std::string(reinterpret_cast<const char*>(&n), 4);
-}
-
-std::vector<std::string> Items(const ui::ComboBox& c) {
-  std::vector<std::string> out;
-  for (int i = 0; i < c.ListCount(); ++i) out.push_back(kq::RTrim(c.List(i)));
-  return out;
-}
 
 class SystemDialogTest : public DialogTest {
  protected:
@@ -56,29 +29,6 @@ class SystemDialogTest : public DialogTest {
     DeclarePath('B', 1, "Greet");
     DeclarePath('E', 0, "Tools");
     DeclareTable(0, "Orders");
-  }
-  template <typename D>
-  void Run(int funcNo, const std::function<void(D&)>& act) {
-    if (!kq::FuncModify) PrepareNew(funcNo);
-    bool shown = false;
-    p.QueueModal("", [&](ui::Form& f) {
-      shown = true;
-      D* d = dynamic_cast<D*>(&f);
-      ASSERT_NE(d, nullptr) << f.Name();
-      act(*d);
-      if (f.Loaded()) d->cmdCancel.UserClick();
-    });
-    kq::GetFuncParm(funcNo);
-    ASSERT_TRUE(shown);
-  }
-  void ExpectRefused(kq::FuncDialog& d, const std::string& focus) {
-    const int beeps = p.CountOf("beep");
-    d.cmdOk.UserClick();
-    EXPECT_TRUE(d.Loaded());
-    EXPECT_FALSE(kq::FuncOk);
-    EXPECT_EQ(p.CountOf("beep"), beeps + 1);
-    EXPECT_EQ(p.CountOf("msgbox"), 0);
-    EXPECT_EQ(LastFocus(), focus);
   }
 };
 
