@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <set>
 
 #include "document/state.h"
 #include "editor/commands.h"
