@@ -8,6 +8,7 @@ const Command kCommands[] = {
     {"resave", "IN OUT", CmdResave},
     {"compile", "IN [-o OUT]", CmdCompile},
     {"list", "IN [-o OUT] [--now \"YYYY-MM-DD HH:MM:SS\"]", CmdList},
+    {"convert", "IN OUT [--format N]", CmdConvert},
     {"script", "FILE|- [--settings FILE] [--data DIR] [--home DIR] [--screen W H]", CmdScript},
     {nullptr, nullptr, nullptr},
 };

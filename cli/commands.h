@@ -11,5 +11,6 @@ int CmdResave(CliContext& ctx);
 int CmdCompile(CliContext& ctx);
 int CmdList(CliContext& ctx);
 int CmdScript(CliContext& ctx);
+int CmdConvert(CliContext& ctx);
 
 }  // namespace kqx

@@ -60,5 +60,7 @@ class FuncDialog : public ui::Form {
 
 // Shows the dialog of one function modally; false when the function has no dialog yet.
 bool ShowFuncDialog(int funcNo);
+// True when the function has a dialog.
+bool HasFuncDialog(int funcNo);
 
 }  // namespace kq

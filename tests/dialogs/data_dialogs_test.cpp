@@ -14,37 +14,14 @@
 #include "dialogs/frm_right_str.h"
 #include "dialogs/frm_trim_str.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/dialogs/dialog_values.h"
 
 namespace kqtest {
 namespace {
 
-std::string Head(const std::string& label, const std::string& name) {
-  return "\t" + label + "\t" + name + std::string(17 - name.size(), ' ') + "\t";
-}
-
-kq::VarRef Var(int32_t type, const std::string& name) {
-  kq::VarRef v;
-  v.VarRefType = type;
-  kq::SetField(v.VarRefName, name);
-  return v;
-}
-
-kq::LabelRef Label(const std::string& name, int32_t line = -1) {
-  kq::LabelRef l;
-  kq::SetField(l.LabelRefName, name);
-  l.LabelRefLine = line;
-  return l;
-}
-
 // A combo's text and items as a person reads them: variable names stand padded in the list.
 std::string Shown(const ui::ComboBox& c) {
   return kq::RTrim(c.Text());
-}
-
-std::vector<std::string> Items(const ui::ComboBox& c) {
-  std::vector<std::string> out;
-  for (int i = 0; i < c.ListCount(); ++i) out.push_back(kq::RTrim(c.List(i)));
-  return out;
 }
 
 class DataDialogTest : public DialogTest {
@@ -56,30 +33,6 @@ class DataDialogTest : public DialogTest {
     AddVariable("Name", kq::kVarString);
     AddVariable("Total", kq::kVarLong);
     AddVariable("Word", kq::kVarString);
-  }
-  template <typename D>
-  void Run(int funcNo, const std::function<void(D&)>& act) {
-    if (!kq::FuncModify) PrepareNew(funcNo);
-    bool shown = false;
-    p.QueueModal("", [&](ui::Form& f) {
-      shown = true;
-      D* d = dynamic_cast<D*>(&f);
-      ASSERT_NE(d, nullptr) << f.Name();
-      act(*d);
-      if (f.Loaded()) d->cmdCancel.UserClick();
-    });
-    kq::GetFuncParm(funcNo);
-    ASSERT_TRUE(shown);
-  }
-  template <typename D>
-  void ExpectRefused(D& d, const std::string& focus) {
-    const int beeps = p.CountOf("beep");
-    d.cmdOk.UserClick();
-    EXPECT_TRUE(d.Loaded());
-    EXPECT_FALSE(kq::FuncOk);
-    EXPECT_EQ(p.CountOf("beep"), beeps + 1);
-    EXPECT_EQ(p.CountOf("msgbox"), 0);
-    EXPECT_EQ(LastFocus(), focus);
   }
 };
 

@@ -1,5 +1,4 @@
 #include <memory>
-#include <set>
 
 #include "dialogs/dialogs.h"
 #include "dialogs/frm_connect_tbl.h"
@@ -11,13 +10,11 @@
 #include "dialogs/table_dialog.h"
 #include "dialogs/where_dialog.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/dialogs/dialog_values.h"
+#include "tests/support/layout_check.h"
 
 namespace kqtest {
 namespace {
-
-std::string Name17(const std::string& name) {
-  return name + std::string(17 - name.size(), ' ');
-}
 
 class DbDialogTest : public DialogTest {
  protected:
@@ -34,46 +31,10 @@ class DbDialogTest : public DialogTest {
     AddLine("Busy", 13);
     AddLine("Err", 13);
   }
-  // Runs function funcNo's dialog through GetFuncParm with act driving it.
-  void Run(int funcNo, const std::function<void(kq::FuncDialog&)>& act) {
-    if (!kq::FuncModify) PrepareNew(funcNo);
-    bool shown = false;
-    p.QueueModal("", [&](ui::Form& f) {
-      shown = true;
-      auto& d = dynamic_cast<kq::FuncDialog&>(f);
-      act(d);
-      if (f.Loaded()) d.cmdCancel.UserClick();
-    });
-    kq::GetFuncParm(funcNo);
-    ASSERT_TRUE(shown);
-  }
   static ui::ComboBox& Combo(ui::Form& f, const std::string& name, int index = -1) {
     return *dynamic_cast<ui::ComboBox*>(f.FindControl(name, index));
   }
-  // Ok is refused with one beep, no box, the focus on focus.
-  void ExpectRefused(kq::FuncDialog& d, const std::string& focus) {
-    const int beeps = p.CountOf("beep");
-    const int boxes = p.CountOf("msgbox");
-    d.cmdOk.UserClick();
-    EXPECT_TRUE(d.Loaded());
-    EXPECT_FALSE(kq::FuncOk);
-    EXPECT_EQ(p.CountOf("beep"), beeps + 1);
-    EXPECT_EQ(p.CountOf("msgbox"), boxes);
-    EXPECT_EQ(LastFocus(), focus);
-  }
-  static std::vector<std::string> Items(const ui::ComboBox& c) {
-    std::vector<std::string> out;
-    for (int i = 0; i < c.ListCount(); ++i) out.push_back(kq::RTrim(c.List(i)));
-    return out;
-  }
 };
-
-kq::VarRef Const(int32_t type, const std::string& text) {
-  kq::VarRef v;
-  v.VarRefType = type;
-  kq::SetField(v.VarRefName, text);
-  return v;
-}
 
 // ---- Connect Table
 
@@ -249,9 +210,9 @@ TEST_F(WhereTest, RowsFollowTheTypeOfTheirField) {
             (std::vector<int32_t>{3, 1, 2, 0, 0}));
   EXPECT_EQ(std::vector<int32_t>(r.WhereOperator, r.WhereOperator + 5),
             (std::vector<int32_t>{1, 4, 0, 0, 0}));
-  EXPECT_EQ(Bytes(r.WhereValue[0]), Bytes(Const(10, "a.b")));
-  EXPECT_EQ(Bytes(r.WhereValue[1]), Bytes(Const(8, "-7")));
-  EXPECT_EQ(Bytes(r.WhereValue[2]), Bytes(Const(9, "25")));
+  EXPECT_EQ(Bytes(r.WhereValue[0]), Bytes(Var(10, "a.b")));
+  EXPECT_EQ(Bytes(r.WhereValue[1]), Bytes(Var(8, "-7")));
+  EXPECT_EQ(Bytes(r.WhereValue[2]), Bytes(Var(9, "25")));
   EXPECT_EQ(Bytes(r.WhereValue[3]), Bytes(init.WhereValue[3]));
 }
 
@@ -279,7 +240,7 @@ TEST_F(WhereTest, ModifyLoadsTheRowsOfTheLine) {
   kq::SetField(r.TableName, "Orders");
   r.WhereField[1] = 3;
   r.WhereOperator[1] = 4;  // not a String operator any more
-  r.WhereValue[1] = Const(10, "x y");
+  r.WhereValue[1] = Var(10, "x y");
   r.WhereField[3] = 2;
   r.WhereOperator[3] = 5;
   r.WhereValue[3] = kq::PrgHdr.Variable[0];
@@ -319,31 +280,12 @@ TEST_F(WhereTest, AValueKeyOfNoRowEndsTheProgram) {
 
 // ---- Opening, and the layouts
 
-void ExpectLaidOut(const ui::Form& form) {
-  std::set<const ui::Control*> placed;
-  std::set<std::pair<int, int>> cells;
-  for (const ui::LayoutItem& item : form.layout().Items()) {
-    EXPECT_TRUE(placed.insert(item.control).second) << item.control->Name();
-    for (int r = item.row; r < item.row + item.rowSpan; ++r) {
-      for (int c = item.column; c < item.column + item.columnSpan; ++c) {
-        EXPECT_TRUE(cells.insert({r, c}).second) << form.Name() << " " << r << "," << c;
-      }
-    }
-  }
-  for (const ui::Control* c : form.Controls()) {
-    if (!c->Visible()) continue;
-    EXPECT_TRUE(placed.count(c)) << form.Name() << "." << c->Name();
-  }
-  EXPECT_GT(form.Width(), 0);
-  EXPECT_GT(form.Height(), 0);
-}
-
 TEST_F(DbDialogTest, EveryFunctionOpensItsDialogAndEveryFormIsLaidOut) {
-  ExpectLaidOut(kq::frmDefDBTbl());
+  kq::test::ExpectLaidOut(kq::frmDefDBTbl());
   for (int funcNo : {24, 25, 26, 27, 28, 29, 30, 31, 32, 33, 34, 38, 39, 40}) {
     Run(funcNo, [&](kq::FuncDialog& d) {
       EXPECT_EQ(d.FunctionNumber(), funcNo);
-      ExpectLaidOut(d);
+      kq::test::ExpectLaidOut(d);
     });
   }
   EXPECT_EQ(p.CountOf("msgbox"), 0);

@@ -5,13 +5,18 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <functional>
 #include <string>
+#include <type_traits>
 #include <vector>
 
+#include "dialogs/dialogs.h"
+#include "dialogs/func_dialog.h"
 #include "document/catalogue.h"
 #include "document/document.h"
 #include "document/state.h"
 #include "document/text.h"
+#include "tests/support/doc_builder.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/model/controls.h"
 #include "ui/model/form.h"
@@ -19,11 +24,7 @@
 
 namespace kqtest {
 
-class MainWindow : public ui::Form {
- public:
-  MainWindow() : Form("frmEdit", "KQEdit") {}
-  ui::ListBox lstEdit{*this, "lstEdit"};
-};
+;
 
 class DialogTest : public ::testing::Test {
  protected:
@@ -116,8 +117,36 @@ class DialogTest : public ::testing::Test {
     return s;
   }
 
+  // Runs function funcNo's dialog through GetFuncParm with act driving it; a dialog that
+  // act leaves open is cancelled.
+  template <typename D = kq::FuncDialog>
+  void Run(int funcNo, const std::function<void(std::type_identity_t<D>&)>& act) {
+    if (!kq::FuncModify) PrepareNew(funcNo);
+    bool shown = false;
+    p.QueueModal("", [&](ui::Form& f) {
+      shown = true;
+      D* d = dynamic_cast<D*>(&f);
+      ASSERT_NE(d, nullptr) << f.Name();
+      act(*d);
+      if (f.Loaded()) d->cmdCancel.UserClick();
+    });
+    kq::GetFuncParm(funcNo);
+    ASSERT_TRUE(shown);
+  }
+  // Ok is refused with one beep, no box, the dialog open and the focus on focus.
+  void ExpectRefused(kq::FuncDialog& d, const std::string& focus) {
+    const int beeps = p.CountOf("beep");
+    const int boxes = p.CountOf("msgbox");
+    d.cmdOk.UserClick();
+    EXPECT_TRUE(d.Loaded());
+    EXPECT_FALSE(kq::FuncOk);
+    EXPECT_EQ(p.CountOf("beep"), beeps + 1);
+    EXPECT_EQ(p.CountOf("msgbox"), boxes);
+    EXPECT_EQ(LastFocus(), focus);
+  }
+
   ui::HeadlessPlatform p;
-  MainWindow window;
+  kq::test::EditHost window;
 };
 
 // The bytes of a record as they will stand in the line's block.

@@ -8,52 +8,12 @@
 #include "dialogs/frm_return.h"
 #include "dialogs/services.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/dialogs/dialog_values.h"
 
 namespace kqtest {
 namespace {
 
-// A function name as the DisplayLine shows it: 17 characters.
-std::string Name17(const std::string& name) {
-  return name + std::string(17 - name.size(), ' ');
-}
-
-kq::LabelRef Label(const std::string& name, int32_t line = -1) {
-  kq::LabelRef l;
-  kq::SetField(l.LabelRefName, name);
-  l.LabelRefLine = line;
-  return l;
-}
-
-class FlowDialogTest : public DialogTest {
- protected:
-  // Runs function funcNo's dialog through GetFuncParm with act driving it.
-  template <typename D>
-  void Run(int funcNo, const std::function<void(D&)>& act) {
-    if (!kq::FuncModify) PrepareNew(funcNo);
-    bool shown = false;
-    p.QueueModal("", [&](ui::Form& f) {
-      shown = true;
-      D* d = dynamic_cast<D*>(&f);
-      ASSERT_NE(d, nullptr) << f.Name();
-      act(*d);
-      if (f.Loaded()) d->cmdCancel.UserClick();
-    });
-    kq::GetFuncParm(funcNo);
-    ASSERT_TRUE(shown);
-  }
-  // Presses Ok and expects the dialog to stay open with a beep and the focus on control.
-  template <typename D>
-  void ExpectRefused(D& d, const std::string& focus) {
-    const int beeps = p.CountOf("beep");
-    const int boxes = p.CountOf("msgbox");
-    d.cmdOk.UserClick();
-    EXPECT_TRUE(d.Loaded());
-    EXPECT_FALSE(kq::FuncOk);
-    EXPECT_EQ(p.CountOf("beep"), beeps + 1);
-    EXPECT_EQ(p.CountOf("msgbox"), boxes);
-    EXPECT_EQ(LastFocus(), focus);
-  }
-};
+using FlowDialogTest = DialogTest;
 
 // ---- Goto
 

@@ -6,10 +6,16 @@
 #include "dialogs/frm_assign.h"
 #include "dialogs/frm_assign_pa.h"
 #include "dialogs/frm_calculate.h"
+#include "dialogs/frm_call_out.h"
+#include "dialogs/frm_check_file.h"
+#include "dialogs/frm_check_path.h"
 #include "dialogs/frm_condition.h"
+#include "dialogs/frm_ct_bus_con.h"
 #include "dialogs/frm_def_path.h"
 #include "dialogs/frm_def_var.h"
 #include "dialogs/frm_delay.h"
+#include "dialogs/frm_delete_file.h"
+#include "dialogs/frm_dial_no.h"
 #include "dialogs/frm_func.h"
 #include "dialogs/frm_get_ch_no.h"
 #include "dialogs/frm_get_date.h"
@@ -20,11 +26,18 @@
 #include "dialogs/frm_in_str.h"
 #include "dialogs/frm_left_str.h"
 #include "dialogs/frm_len_str.h"
+#include "dialogs/frm_on_off_hook.h"
+#include "dialogs/frm_prototype.h"
+#include "dialogs/frm_r_switch.h"
 #include "dialogs/frm_random.h"
 #include "dialogs/frm_remark.h"
 #include "dialogs/frm_return.h"
 #include "dialogs/frm_right_str.h"
+#include "dialogs/frm_run.h"
+#include "dialogs/frm_sound_file_counter.h"
 #include "dialogs/frm_trim_str.h"
+#include "dialogs/frm_var_exp.h"
+#include "dialogs/frm_wait_for_call.h"
 #include "tests/dialogs/dialog_fixture.h"
 
 namespace kqtest {
@@ -62,6 +75,13 @@ void ExpectLaidOut(const ui::Form& form) {
 TEST(DialogLayout, EveryFormPlacesEveryVisibleControlOnce) {
   std::vector<std::unique_ptr<ui::Form>> forms;
   forms.push_back(std::make_unique<kq::frmCondition>());
+  forms.push_back(std::make_unique<kq::frmCheckPath>());
+  forms.push_back(std::make_unique<kq::frmCheckFile>());
+  forms.push_back(std::make_unique<kq::frmDeleteFile>());
+  forms.push_back(std::make_unique<kq::frmSoundFileCounter>());
+  forms.push_back(std::make_unique<kq::frmRun>());
+  forms.push_back(std::make_unique<kq::frmVarExp>());
+  forms.push_back(std::make_unique<kq::frmPrototype>());
   forms.push_back(std::make_unique<kq::frmDelay>());
   forms.push_back(std::make_unique<kq::frmGosub>());
   forms.push_back(std::make_unique<kq::frmGoto>());
@@ -83,6 +103,12 @@ TEST(DialogLayout, EveryFormPlacesEveryVisibleControlOnce) {
   forms.push_back(std::make_unique<kq::frmLenStr>());
   forms.push_back(std::make_unique<kq::frmRightStr>());
   forms.push_back(std::make_unique<kq::frmTrimStr>());
+  forms.push_back(std::make_unique<kq::frmWaitForCall>());
+  forms.push_back(std::make_unique<kq::frmOnOffHook>());
+  forms.push_back(std::make_unique<kq::frmDialNo>());
+  forms.push_back(std::make_unique<kq::frmCallOut>());
+  forms.push_back(std::make_unique<kq::frmRSwitch>());
+  forms.push_back(std::make_unique<kq::frmCTBusCon>());
   for (const auto& f : forms) ExpectLaidOut(*f);
 }
 

@@ -1,9 +1,13 @@
 #include "dialogs/services.h"
 #include "dialogs/dialogs.h"
 #include "tests/dialogs/dialog_fixture.h"
+#include "tests/dialogs/dialog_values.h"
+#include "tests/support/test_text.h"
 
 namespace kqtest {
 namespace {
+
+using kq::test::ProgramErrorOf;
 
 using kq::VarRef;
 
@@ -16,24 +20,10 @@ class Host : public ui::Form {
 
 class ServicesTest : public DialogTest {
  protected:
-  std::string ProgramErrorOf(const std::function<void()>& f) {
-    try {
-      f();
-    } catch (const ui::ProgramEnded& e) {
-      return e.what();
-    }
-    return "(no program error)";
-  }
   std::vector<std::string> Items(const ui::ComboBox& c) {
     std::vector<std::string> out;
     for (int i = 0; i < c.ListCount(); ++i) out.push_back(c.List(i));
     return out;
-  }
-  static VarRef Var(int32_t type, const std::string& name) {
-    VarRef v;
-    v.VarRefType = type;
-    kq::SetField(v.VarRefName, name);
-    return v;
   }
   Host host;
 };
@@ -117,13 +107,13 @@ TEST_F(ServicesTest, OnlyTheMissingDeclarationIsReported) {
 
 TEST_F(ServicesTest, FunctionWithoutDialogYetSaysSoAndChangesNothing) {
   kq::FuncOk = true;
-  kq::FuncLine = "R Switch         ";
-  kq::GetFuncParm(15);
+  kq::FuncLine = "Wait for Key     ";
+  kq::GetFuncParm(20);
   ASSERT_EQ(p.CountOf("msgbox"), 1);
   EXPECT_EQ(p.Events()[0].fields["title"].Str(), "Function");
   EXPECT_EQ(p.Events()[0].fields["text"].Str(), "This function's dialog is not available yet.");
   EXPECT_FALSE(kq::FuncOk);
-  EXPECT_EQ(kq::FuncLine, "R Switch         ");
+  EXPECT_EQ(kq::FuncLine, "Wait for Key     ");
 }
 
 TEST_F(ServicesTest, IllegalFunctionNumbersAreProgramErrors) {

@@ -13,7 +13,7 @@
 #include "document/kqx_format.h"
 #include "document/state.h"
 #include "document/text.h"
-#include "tests/document/doc_fixture.h"
+#include "tests/support/doc_fixture.h"
 
 namespace {
 
@@ -45,10 +45,6 @@ class FileTest : public DocTest {
     const auto second = ReadBytes(b);
     ASSERT_EQ(first.size(), second.size());
     EXPECT_TRUE(first == second);
-  }
-  std::string LastBoxText() {
-    auto boxes = platform_.EventsOf("msgbox");
-    return boxes.empty() ? "" : boxes.back().fields["text"].Str();
   }
 };
 
@@ -132,7 +128,7 @@ TEST_F(FileTest, OpeningTheOpenFileIsRefused) {
   Shell.caption = [] { return std::string("Zelvox Voice Response Editor: app.kqx"); };
   std::string title = "app.kqx", name = TempPath("app.kqx");
   OpenFile(title, name);
-  EXPECT_EQ(LastBoxText(), "File app.kqx is already open.");
+  EXPECT_EQ(LastBox(), "File app.kqx is already open.");
   EXPECT_EQ(title, "Untitled");
   EXPECT_EQ(name, "");
   EXPECT_FALSE(std::filesystem::exists(TempPath("app.kqx")));
@@ -143,7 +139,7 @@ TEST_F(FileTest, AbsentFileIsCreatedEmptyAndRefused) {
   const Snapshot before = Snapshot::Take();
   std::string title = "new.kqx", name = TempPath("new.kqx");
   OpenFile(title, name);
-  EXPECT_EQ(LastBoxText(), "File new.kqx doesn't exist.");
+  EXPECT_EQ(LastBox(), "File new.kqx doesn't exist.");
   auto box = platform_.EventsOf("msgbox").back().fields;
   EXPECT_EQ(box["title"].Str(), "File Error");
   EXPECT_EQ(box["icon"].Str(), "exclamation");
@@ -156,7 +152,7 @@ TEST_F(FileTest, AbsentFileIsCreatedEmptyAndRefused) {
 TEST_F(FileTest, AbsentFolderGivesThePathBox) {
   std::string title = "x.kqx", name = TempPath("missing/x.kqx");
   OpenFile(title, name);
-  EXPECT_EQ(LastBoxText(), "Path do not exist.");
+  EXPECT_EQ(LastBox(), "Path do not exist.");
   EXPECT_EQ(platform_.EventsOf("msgbox").back().fields["title"].Str(), "Open");
   EXPECT_EQ(title, "Untitled");
 }
@@ -182,7 +178,7 @@ TEST_F(FileTest, VersionsAreRefusedWithOrWithoutThePortingSentence) {
     std::memcpy(bytes.data(), c.version, std::strlen(c.version) + 1);
     WriteBytes(TempPath("v.kqx"), bytes);
     EXPECT_EQ(kqtest::Open(TempPath("v.kqx"), "v.kqx"), "Untitled");
-    EXPECT_EQ(LastBoxText(), c.text);
+    EXPECT_EQ(LastBox(), c.text);
     EXPECT_TRUE(Snapshot::Take() == before) << c.version;
   }
 }
@@ -190,7 +186,7 @@ TEST_F(FileTest, VersionsAreRefusedWithOrWithoutThePortingSentence) {
 TEST_F(FileTest, VersionWithoutItsNulEndsTheProgram) {
   WriteBytes(TempPath("t.kqx"), {'H', 'e', 'l', 'l', 'o', ' ', 'w'});
   EXPECT_THROW(kqtest::Open(TempPath("t.kqx")), ui::ProgramEnded);
-  EXPECT_EQ(LastBoxText(), "String 'Hello' not terminated with null character in Global RTrimZ.");
+  EXPECT_EQ(LastBox(), "String 'Hello' not terminated with null character in Global RTrimZ.");
 }
 
 TEST_F(FileTest, DamagedFilesLeaveTheDocumentAsItWas) {
@@ -209,7 +205,7 @@ TEST_F(FileTest, DamagedFilesLeaveTheDocumentAsItWas) {
     WriteBytes(TempPath("bad.kqx"), damaged);
     platform_.ClearEvents();
     EXPECT_EQ(kqtest::Open(TempPath("bad.kqx"), "bad.kqx"), "Untitled") << what;
-    EXPECT_EQ(LastBoxText(), "File bad.kqx is damaged.") << what;
+    EXPECT_EQ(LastBox(), "File bad.kqx is damaged.") << what;
     EXPECT_TRUE(Snapshot::Take() == before) << what;
   };
   check({bytes.begin(), bytes.begin() + 3}, "shorter than its version");
@@ -239,7 +235,7 @@ TEST_F(FileTest, IllegalFunctionNumberInAFileEndsTheProgram) {
   std::memcpy(&b[at + 16], &bad, 2);
   WriteBytes(TempPath("f.kqx"), b);
   EXPECT_THROW(kqtest::Open(TempPath("f.kqx")), ui::ProgramEnded);
-  EXPECT_EQ(LastBoxText(), "Illegal Function Number  35 in line  2 Global OpenFile.");
+  EXPECT_EQ(LastBox(), "Illegal Function Number  35 in line  2 Global OpenFile.");
 }
 
 TEST_F(FileTest, SavingALineOfAnIllegalNumberEndsTheProgramAndKeepsTheOldFile) {
@@ -248,7 +244,7 @@ TEST_F(FileTest, SavingALineOfAnIllegalNumberEndsTheProgramAndKeepsTheOldFile) {
   const auto old = ReadBytes(TempPath("s.kqx"));
   LineTable[1].LineFuncNo = 35;
   EXPECT_THROW(kqtest::SaveAll(TempPath("s.kqx")), ui::ProgramEnded);
-  EXPECT_EQ(LastBoxText(), "Illegal Function Number  35 in Global SaveFile.");
+  EXPECT_EQ(LastBox(), "Illegal Function Number  35 in Global SaveFile.");
   EXPECT_TRUE(ReadBytes(TempPath("s.kqx")) == old);
 }
 
@@ -264,7 +260,7 @@ TEST_F(FileTest, FullDiskOnSaveRetriesOrLeavesTheOldFile) {
   InjectWriteFault(ENOSPC, 1000, 1);
   platform_.QueueAnswer(ui::vbCancel);
   kqtest::SaveAll(path);
-  EXPECT_EQ(LastBoxText(), "Disk is full.\r\rInsert a new disk and try again.");
+  EXPECT_EQ(LastBox(), "Disk is full.\r\rInsert a new disk and try again.");
   EXPECT_TRUE(ReadBytes(path) == old);
   EXPECT_TRUE(ChangedFlag);
   EXPECT_EQ(platform_.MousePointer(), 0);
@@ -288,7 +284,7 @@ TEST_F(FileTest, WriteProtectionLeavesTheCommand) {
   Shell.addRecentFile = [&](const std::string&) { ++recent; };
   InjectWriteFault(EACCES, 0, 1);
   kqtest::SaveAll(TempPath("p.kqx"));
-  EXPECT_EQ(LastBoxText(),
+  EXPECT_EQ(LastBox(),
             "This disk is write-protected.\r\rRemove the write-protection or use another disk.");
   EXPECT_EQ(platform_.EventsOf("msgbox").back().fields["title"].Str(), "Save");
   EXPECT_TRUE(ChangedFlag);
@@ -304,31 +300,16 @@ TEST_F(FileTest, ReadOnlyFolderGivesTheWriteProtectedBox) {
       folder, std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
   kqtest::SaveAll(folder + "/x.kqx");
   std::filesystem::permissions(folder, std::filesystem::perms::owner_all);
-  EXPECT_EQ(LastBoxText(),
+  EXPECT_EQ(LastBox(),
             "This disk is write-protected.\r\rRemove the write-protection or use another disk.");
 }
 
 TEST_F(FileTest, SaveIntoAMissingFolderGivesThePathBox) {
   kqtest::SaveAll(TempPath("none/x.kqx"));
-  EXPECT_EQ(LastBoxText(), "Path do not exist.");
+  EXPECT_EQ(LastBox(), "Path do not exist.");
 }
 
-}  // namespace
-
-namespace {
-
-using namespace kq;
-using kqtest::DocTest;
-using kqtest::ReadBytes;
-using kqtest::Snapshot;
-
-class FileErrorTest : public DocTest {
- protected:
-  std::string LastBox(const char* field = "text") {
-    auto boxes = platform_.EventsOf("msgbox");
-    return boxes.empty() ? "" : boxes.back().fields[field].Str();
-  }
-};
+using FileErrorTest = DocTest;
 
 TEST_F(FileErrorTest, ReadErrorOnOpenRetriesUnderTheOpenTitle) {
   kqtest::AddMixedLines(3);
@@ -397,12 +378,6 @@ TEST_F(FileErrorTest, SavePartWithoutASelectionWritesNothing) {
   EXPECT_EQ(platform_.MousePointer(), 0);
 }
 
-}  // namespace
-
-namespace {
-
-using namespace kq;
-
 // Bytes behind the largest possible application are never read: a huge file chosen by
 // mistake cannot exhaust the memory.
 TEST_F(FileErrorTest, ReadsStopAtTheLargestApplication) {
@@ -424,12 +399,6 @@ TEST_F(FileErrorTest, ReadsStopAtTheLargestApplication) {
   EXPECT_EQ(kqtest::Open(path, "tail.kqx"), "tail.kqx");
   EXPECT_EQ(list().ListCount(), 2);
 }
-
-}  // namespace
-
-namespace {
-
-using namespace kq;
 
 // Saving over a file marked read-only is refused as write-protected, as writing into
 // the file would be, and the file stays as it was.

@@ -9,22 +9,16 @@
 #include "document/merge.h"
 #include "document/state.h"
 #include "document/text.h"
-#include "tests/document/doc_fixture.h"
+#include "tests/support/doc_fixture.h"
 
 namespace {
 
 using namespace kq;
+using kq::test::DeclarePath;
+using kq::test::DeclareVariable;
 using kqtest::DocTest;
 using kqtest::Snapshot;
 
-void Declare(int i, int32_t type, const std::string& name) {
-  PrgHdr.Variable[i].VarRefType = type;
-  SetField(PrgHdr.Variable[i].VarRefName, name);
-}
-void DeclarePath(int row, int32_t code, const std::string& name, const std::string& text) {
-  SetField(PrgHdr.Path[row][code - kPathExport].PathName, name);
-  SetField(PrgHdr.Path[row][code - kPathExport].PathText, text);
-}
 VarRef VarOf(int i) {
   return PrgHdr.Variable[i];
 }
@@ -39,10 +33,6 @@ void AddRecordLine(int f, const std::string& label, Fill fill) {
 
 class MergeTest : public DocTest {
  protected:
-  std::string LastBox(const char* field = "text") {
-    auto boxes = platform_.EventsOf("msgbox");
-    return boxes.empty() ? "" : boxes.back().fields[field].Str();
-  }
   void Insert(const std::string& path, int position, const std::string& title = "part.kqx") {
     std::string t = title, n = path;
     InsertFile(t, n, position);
@@ -58,16 +48,16 @@ class MergeTest : public DocTest {
 };
 
 TEST_F(MergeTest, SavePartKeepsOnlyWhatTheLinesUse) {
-  Declare(0, kVarLong, "Unused");
-  Declare(1, kVarLong, "Counter");
-  Declare(2, kVarString, "Caller");
-  Declare(3, kVarLong, "RandomOnly");
-  Declare(4, kVarDouble, "InTable");
+  DeclareVariable(0, kVarLong, "Unused");
+  DeclareVariable(1, kVarLong, "Counter");
+  DeclareVariable(2, kVarString, "Caller");
+  DeclareVariable(3, kVarLong, "RandomOnly");
+  DeclareVariable(4, kVarDouble, "InTable");
   SetField(PrgHdr.Table[0].TableName, "Calls");
   PrgHdr.Table[0].Column[5] = VarOf(4);
-  DeclarePath(0, kPathVoice, "Unused", "/v0/");
-  DeclarePath(1, kPathVoice, "Prompts", "/v1/");
-  DeclarePath(0, kPathMessage, "Msgs", "/m/");
+  DeclarePath(kPathVoice, 0, "Unused", "/v0/");
+  DeclarePath(kPathVoice, 1, "Prompts", "/v1/");
+  DeclarePath(kPathMessage, 0, "Msgs", "/m/");
   for (int i = 0; i < 5; ++i) kqtest::AddLine(13, "", i);
   AddRecordLine(3, "L5", [&](RecordSet& w) {
     w.Condition.Left = VarOf(1);
@@ -115,7 +105,7 @@ TEST_F(MergeTest, SavePartKeepsOnlyWhatTheLinesUse) {
 }
 
 TEST_F(MergeTest, TableColumnsKeepVariablesOnlyWhenTheFirstTableIsNamed) {
-  Declare(0, kVarLong, "Bound");
+  DeclareVariable(0, kVarLong, "Bound");
   SetField(PrgHdr.Table[3].TableName, "Late");
   PrgHdr.Table[3].Column[0] = VarOf(0);
   kqtest::AddLine(13, "", 1);
@@ -125,19 +115,19 @@ TEST_F(MergeTest, TableColumnsKeepVariablesOnlyWhenTheFirstTableIsNamed) {
 }
 
 TEST_F(MergeTest, InsertMergesDeclarationsAndLines) {
-  Declare(0, kVarLong, "Shared");
-  Declare(1, kVarString, "Theirs");
-  DeclarePath(0, kPathVoice, "Prompts", "/v/");
-  DeclarePath(1, kPathVoice, "Extra", "/x/");
+  DeclareVariable(0, kVarLong, "Shared");
+  DeclareVariable(1, kVarString, "Theirs");
+  DeclarePath(kPathVoice, 0, "Prompts", "/v/");
+  DeclarePath(kPathVoice, 1, "Extra", "/x/");
   SetField(PrgHdr.Table[0].TableName, "Orders");
   PrgHdr.Table[0].Column[0] = VarOf(1);
   AddRecordLine(10, "In0", [](RecordSet& w) { SetField(w.Goto.Target.LabelRefName, "In1"); });
   AddRecordLine(4, "In1", [](RecordSet& w) { w.Delay.DelayMs = 77; });
   const std::string part = MakePart("part.kqx");
 
-  Declare(0, kVarDouble, "Mine");
-  Declare(1, kVarLong, "Shared");
-  DeclarePath(0, kPathVoice, "Prompts", "/v/");
+  DeclareVariable(0, kVarDouble, "Mine");
+  DeclareVariable(1, kVarLong, "Shared");
+  DeclarePath(kPathVoice, 0, "Prompts", "/v/");
   for (int i = 0; i < 4; ++i) kqtest::AddLine(13, "M" + std::to_string(i), i);
   const auto lastBlock = std::vector<uint8_t>(FuncBlock[3], FuncBlock[3] + 52);
   list().SetListIndex(3);
@@ -170,7 +160,7 @@ TEST_F(MergeTest, InsertMergesDeclarationsAndLines) {
 }
 
 TEST_F(MergeTest, InsertAtTheEndAndOfNoLines) {
-  Declare(0, kVarLong, "Only");
+  DeclareVariable(0, kVarLong, "Only");
   const std::string empty = MakePart("empty.kqx");
   kqtest::AddLine(13, "", 1);
   kqtest::AddLine(13, "", 2);
@@ -198,23 +188,23 @@ TEST_F(MergeTest, RefusalsInOrderLeaveTheDocument) {
     const char* title;
   };
   const std::vector<Case> cases = {
-      {[] { Declare(0, kVarString, "Name"); }, [] { Declare(5, kVarLong, "Name"); },
+      {[] { DeclareVariable(0, kVarString, "Name"); }, [] { DeclareVariable(5, kVarLong, "Name"); },
        "Variable Name is defined as Long and String respectively.", "Variable Error"},
       {[] {
-         for (int i = 0; i < 10; ++i) Declare(i, kVarLong, "P" + std::to_string(i));
+         for (int i = 0; i < 10; ++i) DeclareVariable(i, kVarLong, "P" + std::to_string(i));
        },
        [] {
-         for (int i = 0; i < 495; ++i) Declare(i, kVarLong, "D" + std::to_string(i));
+         for (int i = 0; i < 495; ++i) DeclareVariable(i, kVarLong, "D" + std::to_string(i));
        },
        "Exceeded maximum number of allowed variables, which are 500.", "Variable Error"},
-      {[] { DeclarePath(0, kPathNumber, "Nums", "/a/"); },
-       [] { DeclarePath(0, kPathNumber, "Nums", "/b/"); },
+      {[] { DeclarePath(kPathNumber, 0, "Nums", "/a/"); },
+       [] { DeclarePath(kPathNumber, 0, "Nums", "/b/"); },
        "Path variable Nums is defined as /b/ and /a/ respectively.", "Path Variable Error"},
       {[] {
-         for (int r = 0; r < 3; ++r) DeclarePath(r, kPathGeneral, "G" + std::to_string(r), "/g/");
+         for (int r = 0; r < 3; ++r) DeclarePath(kPathGeneral, r, "G" + std::to_string(r), "/g/");
        },
        [] {
-         for (int r = 0; r < 18; ++r) DeclarePath(r, kPathGeneral, "H" + std::to_string(r), "/h/");
+         for (int r = 0; r < 18; ++r) DeclarePath(kPathGeneral, r, "H" + std::to_string(r), "/h/");
        },
        "Exceeded maximum number of allowed path variables, which are 20.", "Variable Error"},
       {[] { SetField(PrgHdr.Table[0].TableName, "Same"); },
@@ -282,7 +272,7 @@ TEST_F(MergeTest, AnIllegalNumberInTheInsertedFileEndsTheProgram) {
 TEST_F(MergeTest, TooManyLinesEndTheCommandWithoutABox) {
   kqtest::AddMixedLines(2);
   const std::string part = MakePart("p.kqx");
-  Declare(0, kVarLong, "Mine");
+  DeclareVariable(0, kVarLong, "Mine");
   kqtest::AddMixedLines(kMaxLines - 1);
   const auto items = list().Items();
   const auto header = Snapshot::Take().header;

@@ -7,7 +7,7 @@
 #include "document/file.h"
 #include "document/state.h"
 #include "document/text.h"
-#include "tests/document/doc_fixture.h"
+#include "tests/support/doc_fixture.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include "document/document.h"
 #include "document/file.h"
 #include "document/state.h"
-#include "tests/document/doc_fixture.h"
+#include "tests/support/doc_fixture.h"
 
 namespace {
 

@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "cli/kqx.h"
+#include "tests/support/test_text.h"
 
 namespace fs = std::filesystem;
 
@@ -27,12 +28,7 @@ class CmdScript : public ::testing::Test {
     std::ofstream(p, std::ios::binary) << text;
     return p.string();
   }
-  std::string Read(const std::string& name) {
-    std::ifstream in(dir_ / name, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-  }
+  std::string Read(const std::string& name) { return kq::test::ReadText((dir_ / name).string()); }
 
   fs::path dir_;
   std::ostringstream out_, err_;

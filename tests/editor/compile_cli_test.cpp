@@ -9,7 +9,8 @@
 #include "document/file.h"
 #include "document/state.h"
 #include "editor/listing.h"
-#include "tests/editor/doc_builder.h"
+#include "tests/support/doc_builder.h"
+#include "tests/support/test_text.h"
 
 namespace kq::test {
 namespace {
@@ -45,12 +46,6 @@ class KqxCommandsTest : public ::testing::Test, public DocFixture {
     for (std::string l; std::getline(in, l);) lines.push_back(l);
     return lines;
   }
-  static std::string Slurp(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-  }
   fs::path dir;
   std::ostringstream out, err;
 };
@@ -71,14 +66,14 @@ TEST_F(KqxCommandsTest, CompileSavesTheResolvedDocument) {
   OpenFile(title, name);
   EXPECT_EQ(PrgHdr.CompiledFlag, -1);
   EXPECT_EQ(LineRecord(0).I32At(16), 1);
-  EXPECT_NE(Slurp(in), Slurp(outPath));
+  EXPECT_NE(ReadText(in), ReadText(outPath));
 }
 
 TEST_F(KqxCommandsTest, CompileErrorSavesNothing) {
   Add("", Rec(13));
   Add("", Rec(10).LabelRef(0, "Gone", -1));
   const std::string in = Save("bad.kqx");
-  const std::string before = Slurp(in);
+  const std::string before = ReadText(in);
   ASSERT_EQ(Run({"compile", in}), 1);
   const auto lines = OutLines();
   ASSERT_EQ(lines.size(), 2u);
@@ -87,7 +82,7 @@ TEST_F(KqxCommandsTest, CompileErrorSavesNothing) {
           R"("title":"Compilation Error - GetLineNo","text":"Label 'Gone' not found in line 1")"),
       std::string::npos);
   EXPECT_EQ(lines[1], R"({"event":"result","compiled":false,"selected":[1]})");
-  EXPECT_EQ(Slurp(in), before);
+  EXPECT_EQ(ReadText(in), before);
 }
 
 TEST_F(KqxCommandsTest, CompileProgramErrorExitsWithTwo) {
@@ -127,7 +122,7 @@ TEST_F(KqxCommandsTest, ListWritesTheListingText) {
   EXPECT_EQ(out.str(), expected);
   const std::string file = (dir / "list.TXT").string();
   ASSERT_EQ(Run({"list", in, "-o", file, "--now", "2026-01-02 03:04:05"}), 0);
-  EXPECT_EQ(Slurp(file), expected);
+  EXPECT_EQ(ReadText(file), expected);
   EXPECT_EQ(out.str(), "");
 }
 

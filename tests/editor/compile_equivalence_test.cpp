@@ -8,8 +8,8 @@
 #include "document/state.h"
 #include "editor/compile.h"
 #include "tests/editor/compile_literal.h"
-#include "tests/editor/doc_builder.h"
-#include "tests/editor/random_doc.h"
+#include "tests/support/doc_builder.h"
+#include "tests/support/random_doc.h"
 
 namespace kq::test {
 namespace {

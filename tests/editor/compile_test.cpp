@@ -10,8 +10,9 @@
 #include "editor/commands.h"
 #include "editor/compile.h"
 #include "editor/compile_index.h"
-#include "tests/editor/doc_builder.h"
-#include "tests/editor/record_layouts.h"
+#include "tests/support/doc_builder.h"
+#include "tests/support/record_layouts.h"
+#include "tests/support/test_text.h"
 
 namespace kq::test {
 namespace {
@@ -31,13 +32,20 @@ class CompileTest : public ::testing::Test, public DocFixture {
     return {boxes[0].fields["title"].Str(), boxes[0].fields["text"].Str()};
   }
   std::vector<int> Selected() { return list().SelectedIndexes(); }
-  std::string ProgramErrorOf(bool (*run)()) {
-    try {
-      run();
-    } catch (const ui::ProgramEnded& e) {
-      return e.what();
+  // A record of function f whose every reference is satisfied: variables hold constants,
+  // flags are on, path types are pathType, path names path and table names "T".
+  static Rec Satisfied(int f, int32_t pathType, const std::string& path) {
+    Rec r(f);
+    for (const FieldSpec& s : RecordFields(f)) {
+      for (int i = 0; i < s.count; ++i) {
+        if (s.kind == FieldSpec::Var) r.Var(s.offset + 32 * i, kConstLong, "1");
+        if (s.kind == FieldSpec::Flag) r.I32(s.offset + 4 * i, 1);
+        if (s.kind == FieldSpec::PathType) r.I32(s.offset, pathType);
+        if (s.kind == FieldSpec::Text && s.width == 28) r.Text(s.offset + 28 * i, 28, path);
+        if (s.kind == FieldSpec::Text && s.width == 16) r.Text(s.offset + 16 * i, 16, "T");
+      }
     }
-    return "";
+    return r;
   }
 };
 
@@ -174,13 +182,13 @@ TEST_F(CompileTest, WhereConditionsCheckTheColumnThenTheValue) {
 
 TEST_F(CompileTest, WhereConditionOnAnUndeclaredTableEndsTheProgram) {
   Add("", Rec(34).Text(0, 16, "Nowhere").I32(36, 1).Var(76, kConstLong, "1"));
-  EXPECT_EQ(ProgramErrorOf(&Compile), "Subscript out of range");
+  EXPECT_EQ(ProgramErrorOf([] { Compile(); }), "Subscript out of range");
 }
 
 TEST_F(CompileTest, IllegalVariableTypeEndsTheProgram) {
   Add("", Rec(45).Var(0, kVarNone, "Zap"));
-  EXPECT_EQ(ProgramErrorOf(&Compile), "Illegal variable type 'Zap" + std::string(25, ' ') +
-                                          "' in line  0 in Global DefinedVarMsgFunc.");
+  EXPECT_EQ(ProgramErrorOf([] { Compile(); }), "Illegal variable type 'Zap" + std::string(25, ' ') +
+                                                   "' in line  0 in Global DefinedVarMsgFunc.");
 }
 
 TEST_F(CompileTest, UndeclaredPathIsReportedWithoutLineNumber) {
@@ -205,14 +213,16 @@ TEST_F(CompileTest, EmptyPathNameIsNotDefined) {
 
 TEST_F(CompileTest, PathOfNoTypeEndsTheProgram) {
   Add("", Rec(49).Text(4, 28, "P"));
-  EXPECT_EQ(ProgramErrorOf(&Compile), std::string("Illegal path variable type 'P ") +
-                                          "' with value -1 in Global DefinedPathMsgVariable.");
+  EXPECT_EQ(ProgramErrorOf([] { Compile(); }),
+            std::string("Illegal path variable type 'P ") +
+                "' with value -1 in Global DefinedPathMsgVariable.");
 }
 
 TEST_F(CompileTest, PathTypeAboveTheLettersEndsTheProgramWithTheNumberAsConverted) {
   Add("", Rec(49).I32(0, 70).Text(4, 28, "P"));
-  EXPECT_EQ(ProgramErrorOf(&Compile), std::string("Illegal path variable type 'P ") +
-                                          "' with value  70 in Global DefinedPathMsgVariable.");
+  EXPECT_EQ(ProgramErrorOf([] { Compile(); }),
+            std::string("Illegal path variable type 'P ") +
+                "' with value  70 in Global DefinedPathMsgVariable.");
 }
 
 TEST_F(CompileTest, UndeclaredTableComesAfterVariablesAndPaths) {
@@ -301,10 +311,11 @@ TEST_F(CompileTest, CheckFileLabelsResolveInPlace) {
 TEST_F(CompileTest, IllegalFunctionNumbersEndTheProgram) {
   Add("", Rec(13));
   LineTable[0].LineFuncNo = 60;
-  EXPECT_EQ(ProgramErrorOf(&Compile),
+  EXPECT_EQ(ProgramErrorOf([] { Compile(); }),
             "Illegal Function Number 60 in frmEdit - UnDefinedMsgVariables");
   LineTable[0].LineFuncNo = 22;  // an empty slot passes the first two passes
-  EXPECT_EQ(ProgramErrorOf(&Compile), "Illegal Function Number in frmEdit - UndefinedDatabase");
+  EXPECT_EQ(ProgramErrorOf([] { Compile(); }),
+            "Illegal Function Number in frmEdit - UndefinedDatabase");
 }
 
 TEST_F(CompileTest, SecondCompileGivesTheSameNumbersAndAnInsertedLineMovesThem) {
@@ -337,12 +348,6 @@ TEST_F(CompileTest, CompileCommandSetsTheFlags) {
   EXPECT_EQ(PrgHdr.CompiledFlag, 0);
   EXPECT_FALSE(ChangedFlag);
 }
-
-}  // namespace
-}  // namespace kq::test
-
-namespace kq::test {
-namespace {
 
 // Every label field of every live function names the label of line 0: after UpdateLabels
 // each carries 0, except the out-of-range label of Insert Record, which compile leaves
@@ -378,12 +383,6 @@ TEST_F(CompileTest, UpdateLabelsResolvesEveryLabelField) {
     EXPECT_EQ(after.bytes, expected.bytes) << "function " << after.funcNo;
   }
 }
-
-}  // namespace
-}  // namespace kq::test
-
-namespace kq::test {
-namespace {
 
 // Which VarRef fields the variable pass checks, by function: each field of the record in
 // turn names an undeclared variable while all others hold constants, every flag is on and
@@ -435,16 +434,7 @@ TEST_F(CompileTest, VariablePassChecksExactlyTheListedFields) {
       list().Clear();
       for (int t = 0; t < 5; ++t) DeclarePath(kPathExport + t, 0, "P", "/p/");
       DeclareTable(0, "T");
-      Rec r(f);
-      for (const FieldSpec& s : RecordFields(f)) {
-        for (int i = 0; i < s.count; ++i) {
-          if (s.kind == FieldSpec::Var) r.Var(s.offset + 32 * i, kConstLong, "1");
-          if (s.kind == FieldSpec::Flag) r.I32(s.offset + 4 * i, 1);
-          if (s.kind == FieldSpec::PathType) r.I32(s.offset, kPathExport);
-          if (s.kind == FieldSpec::Text && s.width == 28) r.Text(s.offset + 28 * i, 28, "P");
-          if (s.kind == FieldSpec::Text && s.width == 16) r.Text(s.offset + 16 * i, 16, "T");
-        }
-      }
+      Rec r = Satisfied(f, kPathExport, "P");
       if (f == 3) r.Label(68, "Here");
       if (f == 16) r.Text(124, 28, "P");
       r.Var(o, kVarLong, "Nope");
@@ -461,12 +451,6 @@ TEST_F(CompileTest, VariablePassChecksExactlyTheListedFields) {
     }
   }
 }
-
-}  // namespace
-}  // namespace kq::test
-
-namespace kq::test {
-namespace {
 
 // Which path variables the path pass checks, and against which path type: each type has
 // a name of its own ("PA" to "PE"); a record whose fields name the path of the listed type
@@ -491,15 +475,7 @@ TEST_F(CompileTest, PathPassChecksEveryPathFieldAgainstItsType) {
     for (int t = 0; t < 5; ++t)
       DeclarePath(kPathExport + t, 0, std::string("P") + char('A' + t), "/p/");
     DeclareTable(0, "T");
-    Rec r(f);
-    for (const FieldSpec& s : RecordFields(f)) {
-      for (int i = 0; i < s.count; ++i) {
-        if (s.kind == FieldSpec::Var) r.Var(s.offset + 32 * i, kConstLong, "1");
-        if (s.kind == FieldSpec::Flag) r.I32(s.offset + 4 * i, 1);
-        if (s.kind == FieldSpec::PathType) r.I32(s.offset, kPathNumber);
-        if (s.kind == FieldSpec::Text && s.width == 16) r.Text(s.offset + 16 * i, 16, "T");
-      }
-    }
+    Rec r = Satisfied(f, kPathNumber, "");
     for (const auto& [o, name] : paths.at(f)) r.Text(o, 28, o == nope ? "Nope" : name);
     Add("", r);
     platform.ClearEvents();
@@ -521,12 +497,6 @@ TEST_F(CompileTest, PathPassChecksEveryPathFieldAgainstItsType) {
   EXPECT_TRUE(Compile());
 }
 
-}  // namespace
-}  // namespace kq::test
-
-namespace kq::test {
-namespace {
-
 // The table pass: the functions 24 to 34, 38, 39, 40 name their table at 0, Prototype at
 // 596; other 16-character texts (the voice files of Say Number and Voice) are no tables.
 TEST_F(CompileTest, TablePassChecksTheTableNames) {
@@ -538,14 +508,7 @@ TEST_F(CompileTest, TablePassChecksTheTableNames) {
       ResetDocument();
       list().Clear();
       for (int t = 0; t < 5; ++t) DeclarePath(kPathExport + t, 0, "P", "/p/");
-      Rec r(f);
-      for (const FieldSpec& v : RecordFields(f)) {
-        for (int i = 0; i < v.count; ++i) {
-          if (v.kind == FieldSpec::Var) r.Var(v.offset + 32 * i, kConstLong, "1");
-          if (v.kind == FieldSpec::PathType) r.I32(v.offset, kPathExport);
-          if (v.kind == FieldSpec::Text && v.width == 28) r.Text(v.offset + 28 * i, 28, "P");
-        }
-      }
+      Rec r = Satisfied(f, kPathExport, "P");
       r.Text(s.offset, 16, "Nope");
       Add("", r);
       platform.ClearEvents();

@@ -28,10 +28,6 @@ void QueueRemarkLine(ui::HeadlessPlatform& p, const std::string& text) {
   });
 }
 
-bool Enabled(const ui::Menu& m) {
-  return m.Enabled();
-}
-
 // ---- Start-up and geometry
 
 TEST_F(EditorTest, EmptySettingsGiveTheDefaultRectangleAndFormat) {
@@ -126,13 +122,6 @@ TEST_F(EditorTest, CloseWritesTheWindowSettingsAsSixteenBitNumbers) {
 
 // ---- Speech formats
 
-TEST_F(EditorTest, AStoredFormatWithoutAnItemEndsTheProgram) {
-  Settings()["SpeechAudioFormat"] = "5";
-  EXPECT_THROW(Start(), ui::ProgramEnded);
-  EXPECT_EQ("Illegal speech format = 5 in mnuSpeechItem_Click() in frmEdit.",
-            ui::LastProgramError());
-}
-
 TEST_F(EditorTest, ChoosingAFormatMovesTheCheckAndWritesTheCode) {
   Settings()["SpeechAudioFormat"] = "1";
   FrmEdit& f = Start();
@@ -147,33 +136,6 @@ TEST_F(EditorTest, ChoosingAFormatMovesTheCheckAndWritesTheCode) {
 }
 
 // ---- The menus of the document states
-
-TEST_F(EditorTest, NewEnablesDeleteButNotCloseUntilALineExists) {
-  platform_.SetUserDirectory("/docs/");
-  FrmEdit& f = Start();
-  f.mnuFileItem[0].UserClick();
-  EXPECT_EQ("temp.kqx", ApplFileTitle);
-  EXPECT_EQ("/docs/temp.kqx", ApplFileName);
-  for (int i = 2; i <= 6; ++i) EXPECT_FALSE(Enabled(f.mnuFileItem[i])) << i;
-  EXPECT_TRUE(f.mnuFileItem[7].Enabled());
-  EXPECT_TRUE(f.mnuEdit.Enabled());
-  EXPECT_TRUE(f.mnuEditItem[0].Enabled());
-  for (int i = 1; i <= 4; ++i) EXPECT_FALSE(f.mnuEditItem[i].Enabled()) << i;
-  EXPECT_TRUE(f.mnuDefine.Enabled());
-  EXPECT_FALSE(f.mnuGoto.Enabled());
-  EXPECT_FALSE(f.mnuCompile.Enabled());
-
-  QueueRemarkLine(platform_, "one");
-  f.mnuEditItem[0].UserClick();
-  ASSERT_EQ(1, f.lstEdit.ListCount());
-  EXPECT_EQ("0000\t\tRemark           \tone", f.lstEdit.List(0));
-  for (int i = 2; i <= 6; ++i) EXPECT_TRUE(f.mnuFileItem[i].Enabled()) << i;
-  for (int i = 0; i <= 4; ++i) EXPECT_TRUE(f.mnuEditItem[i].Enabled()) << i;
-  EXPECT_TRUE(f.mnuGoto.Enabled() && f.mnuCompile.Enabled() && f.mnuPrint.Enabled());
-  EXPECT_TRUE(ChangedFlag);
-  EXPECT_EQ(1, PrgHdr.LineCount);
-  EXPECT_EQ(13, LineTable[0].LineFuncNo);
-}
 
 TEST_F(EditorTest, AddIsOfferedBelow9999LinesAndDeleteOffersItAgain) {
   FrmEdit& f = Start();
@@ -351,26 +313,6 @@ TEST_F(EditorTest, ExitWritesTheSettingsAndKeepsTheWindow) {
   EXPECT_EQ("21600", Settings()["frmEditWidthPosition"]);
   EXPECT_TRUE(f.Loaded());
   EXPECT_EQ(1, f.lstEdit.ListCount());
-}
-
-TEST_F(EditorTest, UnloadClosesNothingButTheWindowDoes) {
-  FrmEdit& f = Start();
-  f.mnuFileItem[0].UserClick();
-  PutLines(1);
-  ChangedFlag = false;
-  platform_.QueueAnswer(ui::vbNo);
-  bool cancel = false;
-  f.ConfirmChangedFile("Unload", cancel);
-  EXPECT_FALSE(cancel);
-  EXPECT_EQ("temp.kqx", ApplFileTitle);
-  EXPECT_EQ((std::vector<std::string>{"Confirm Unload"}), BoxTitles());
-
-  platform_.QueueAnswer(ui::vbCancel);
-  EXPECT_FALSE(f.Close());
-  EXPECT_TRUE(f.Loaded());
-  platform_.QueueAnswer(ui::vbNo);
-  EXPECT_TRUE(f.Close());
-  EXPECT_FALSE(f.Loaded());
 }
 
 // ---- Recent files

@@ -1,9 +1,9 @@
-// The Goto menu: the Next searches with their wrap-around, the six dialogs driven as a
-// person drives them, the "Not Found" boxes, and search keys that outlive documents.
+// The Goto menu where the stories goto_dialogs, goto_paths and goto_and_compile do not reach:
+// a search without selection, the reset of the search keys, the bounds of the line number,
+// the spare functions left out of Goto Function, and the dialogs' layouts.
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <set>
 
 #include "document/state.h"
 #include "editor/commands.h"
@@ -14,7 +14,8 @@
 #include "editor/frm_label.h"
 #include "editor/frm_line_no.h"
 #include "editor/navigation.h"
-#include "tests/editor/doc_builder.h"
+#include "tests/support/doc_builder.h"
+#include "tests/support/layout_check.h"
 #include "ui/model/controls.h"
 
 namespace kq::test {
@@ -42,79 +43,12 @@ class NavigationTest : public ::testing::Test, public DocFixture {
     Add("", Rec(9).LabelRef(0, "Mid", 2).LabelRef(20, "End", 4));        // 5
   }
   std::vector<int> Selected() { return list().SelectedIndexes(); }
-  std::vector<std::string> Boxes() {
-    std::vector<std::string> out;
-    for (const auto& e : platform.EventsOf("msgbox")) {
-      out.push_back(e.fields["title"].Str() + "|" + e.fields["text"].Str() + "|" +
-                    e.fields["icon"].Str());
-    }
-    return out;
-  }
 };
-
-TEST_F(NavigationTest, NextFunctionGoesOnBehindTheSelectionAndWraps) {
-  SearchFuncNo = 41;
-  list().SetSelected(0, true);
-  GotoCommand(3);
-  EXPECT_EQ(Selected(), std::vector<int>{4});
-  GotoCommand(3);
-  EXPECT_EQ(Selected(), std::vector<int>{0});  // wrapped to the top
-  EXPECT_TRUE(Boxes().empty());
-}
-
-TEST_F(NavigationTest, OnlyHitAtTheSelectedLineIsFoundAgain) {
-  SearchFuncNo = 11;
-  list().SetSelected(3, true);
-  GotoCommand(3);
-  EXPECT_EQ(Selected(), std::vector<int>{3});
-  EXPECT_TRUE(Boxes().empty());
-}
-
-TEST_F(NavigationTest, SeveralSelectedLinesCollapseToTheHitBehindTheFirst) {
-  SearchFuncNo = 41;
-  list().SetSelected(1, true);
-  list().SetSelected(4, true);
-  list().SetSelected(5, true);
-  GotoCommand(3);
-  EXPECT_EQ(Selected(), std::vector<int>{4});
-}
 
 TEST_F(NavigationTest, WithoutSelectionTheSearchStartsAtTheTop) {
   SetField(SearchLabel.LabelRefName, "End");
   GotoCommand(7);
   EXPECT_EQ(Selected(), std::vector<int>{1});
-}
-
-TEST_F(NavigationTest, NotFoundBoxesByKind) {
-  SearchFuncNo = 13;
-  GotoCommand(3);
-  SearchVar.VarRefType = kVarDouble;
-  SetField(SearchVar.VarRefName, "Rate");
-  GotoCommand(5);
-  SetField(SearchLabel.LabelRefName, "Nope");
-  GotoCommand(7);
-  SearchPathType = kPathVoice;
-  SetField(SearchPathName, "Vox");
-  list().SetSelected(2, true);
-  GotoCommand(9);
-  EXPECT_EQ(Boxes(), (std::vector<std::string>{"Not Found|Selected function Remark not found.|none",
-                                               "Not Found|Selected variable Rate not found.|none",
-                                               "Not Found|Selected label Nope not found.|none",
-                                               "Not Found|Selected path Vox not found.|none"}));
-  EXPECT_EQ(Selected(), std::vector<int>{2});  // the selection stays
-  EXPECT_EQ(SearchPathType, kPathVoice);       // a key that finds nothing stays in force
-}
-
-TEST_F(NavigationTest, NextWithoutKeyShowsTheDialog) {
-  platform.QueueModal("frmGotoFunc", [](ui::Form& f) { f.Unload(); });
-  platform.QueueModal("frmGotoVar", [](ui::Form& f) { f.Unload(); });
-  platform.QueueModal("frmGotoLabel", [](ui::Form& f) { f.Unload(); });
-  platform.QueueModal("frmGotoPath", [](ui::Form& f) { f.Unload(); });
-  GotoCommand(3);
-  GotoCommand(5);
-  GotoCommand(7);
-  GotoCommand(9);
-  EXPECT_EQ(platform.CountOf("show"), 4);
 }
 
 TEST_F(NavigationTest, KeysOutliveTheDocument) {
@@ -163,45 +97,6 @@ TEST_F(NavigationTest, LineNumberFiveIsTheLast) {
   EXPECT_EQ(platform.CountOf("beep"), 0);
 }
 
-TEST_F(NavigationTest, LabelDialogSelectsTheLineOfTheLabel) {
-  platform.QueueModal(
-      "frmLabel", As<frmLabel>([](frmLabel& f) {
-        EXPECT_EQ(f.lstLabel.Items(), (std::vector<std::string>{"End", "Mid", "Top"}));
-        EXPECT_EQ(f.lstLabel.ListIndex(), 0);
-        f.lstLabel.UserSelect(1);
-        f.lstLabel.RaiseDblClick();
-      }));
-  GotoCommand(1);
-  EXPECT_EQ(Selected(), std::vector<int>{2});
-}
-
-TEST_F(NavigationTest, LabelDialogsWithoutLabelsShowTheBoxAndUnload) {
-  ResetDocument();
-  list().Clear();
-  Add("", Rec(13));
-  GotoCommand(1);
-  GotoCommand(6);
-  EXPECT_EQ(Boxes(),
-            (std::vector<std::string>{"Goto Label Error|Can't find any labels.|exclamation",
-                                      "Goto Label Error|Can't find any labels.|exclamation"}));
-  EXPECT_EQ(platform.CountOf("unload"), 2);
-}
-
-TEST_F(NavigationTest, LabelParameterFindsTheReferringLines) {
-  platform.QueueModal("frmGotoLabel", As<frmGotoLabel>([](frmGotoLabel& f) {
-                        f.lstLabel.UserSelect(0);  // "End"
-                        f.cmdOk.UserClick();
-                      }));
-  GotoCommand(6);
-  EXPECT_EQ(Selected(), std::vector<int>{1});
-  EXPECT_EQ(View(SearchLabel.LabelRefName), std::string_view("End\0            ", 16));
-  EXPECT_EQ(SearchLabel.LabelRefLine, -1);
-  GotoCommand(7);
-  EXPECT_EQ(Selected(), std::vector<int>{5});
-  GotoCommand(7);
-  EXPECT_EQ(Selected(), std::vector<int>{1});
-}
-
 TEST_F(NavigationTest, FunctionDialogOffersOnlyUsedFunctions) {
   Add("", Rec(54));
   platform.QueueModal("frmGotoFunc", As<frmGotoFunc>([](frmGotoFunc& f) {
@@ -221,74 +116,6 @@ TEST_F(NavigationTest, FunctionDialogOffersOnlyUsedFunctions) {
                         f.cmdCancel.UserClick();
                       }));
   GotoCommand(2);
-}
-
-TEST_F(NavigationTest, VariableDialogShowsTheTypeAndSkipsRandom) {
-  platform.QueueModal(
-      "frmGotoVar", As<frmGotoVar>([](frmGotoVar& f) {
-        EXPECT_EQ(f.lstVariable.Items(), (std::vector<std::string>{"Count ", "Name "}));
-        EXPECT_TRUE(f.optDataType[2].Value());  // Long
-        f.lstVariable.UserSelect(1);
-        EXPECT_TRUE(f.optDataType[0].Value());  // String
-        f.cmdOk.UserClick();
-      }));
-  GotoCommand(4);
-  EXPECT_EQ(SearchVar.VarRefType, kVarString);
-  EXPECT_EQ(Selected(), std::vector<int>{2});
-  GotoCommand(5);  // line 3 uses Name only in a Random line: not scanned
-  EXPECT_EQ(Selected(), std::vector<int>{2});
-  EXPECT_TRUE(Boxes().empty());
-}
-
-TEST_F(NavigationTest, PathDialogListsTheNamesOfTheChosenType) {
-  platform.QueueModal("frmGotoPath", As<frmGotoPath>([](frmGotoPath& f) {
-                        EXPECT_EQ(f.cboPath.ListCount(), 2);
-                        EXPECT_EQ(f.lstVariable.Items(), std::vector<std::string>{"Msg "});
-                        f.cboPath.UserSelect(1);
-                        EXPECT_EQ(f.lstVariable.Items(), std::vector<std::string>{"Vox "});
-                        f.cboPath.UserSelect(0);
-                        f.cmdOk.UserClick();
-                      }));
-  GotoCommand(8);
-  EXPECT_EQ(SearchPathType, kPathMessage);
-  EXPECT_EQ(Selected(), std::vector<int>{2});
-  platform.QueueModal("frmGotoPath", As<frmGotoPath>([](frmGotoPath& f) {
-                        f.cboPath.UserSelect(1);
-                        f.cmdOk.UserClick();
-                      }));
-  GotoCommand(8);
-  EXPECT_EQ(Boxes(),
-            std::vector<std::string>{"Not Found|Selected path variable Vox not found.|none"});
-}
-
-}  // namespace
-}  // namespace kq::test
-
-namespace kq::test {
-namespace {
-
-// The desktop binding builds each dialog from its layout: every visible control has one
-// cell of its own (frames hold their own grids).
-void ExpectLaidOut(const ui::Form& form) {
-  std::set<const ui::Control*> placed;
-  std::function<void(const ui::Layout&)> collect = [&](const ui::Layout& layout) {
-    std::set<std::pair<int, int>> cells;
-    for (const ui::LayoutItem& item : layout.Items()) {
-      EXPECT_TRUE(placed.insert(item.control).second) << item.control->Name();
-      for (int r = item.row; r < item.row + item.rowSpan; ++r) {
-        for (int c = item.column; c < item.column + item.columnSpan; ++c) {
-          EXPECT_TRUE(cells.insert({r, c}).second) << form.Name() << " cell " << r << "," << c;
-        }
-      }
-      if (item.control->Kind() == ui::ControlKind::Frame) {
-        collect(static_cast<const ui::Frame*>(item.control)->layout());
-      }
-    }
-  };
-  collect(form.layout());
-  for (const ui::Control* c : form.Controls()) {
-    EXPECT_EQ(placed.count(c), c->Visible() ? 1u : 0u) << form.Name() << "." << c->Name();
-  }
 }
 
 TEST_F(NavigationTest, EveryDialogDeclaresItsLayout) {

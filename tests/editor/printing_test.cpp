@@ -1,16 +1,16 @@
-// Printing: the print dialog, the listing file beside the application, pages of 60 rows
-// under their page headers, page ranges and copies, as the headless printer reports them.
+// Printing where the print_pages story does not reach: the listing file beside the
+// application, a file ending on a full page, the printer calls of copies and ranges, a
+// cancelled dialog and a fault in the listing.
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "document/state.h"
 #include "editor/commands.h"
 #include "editor/listing.h"
 #include "editor/printing.h"
-#include "tests/editor/doc_builder.h"
+#include "tests/support/doc_builder.h"
+#include "tests/support/test_text.h"
 
 namespace kq::test {
 namespace {
@@ -46,34 +46,6 @@ class PrintingTest : public ::testing::Test, public DocFixture {
   fs::path dir;
 };
 
-TEST_F(PrintingTest, PageHeaderRepeatsTheFileHeader) {
-  Remarks(1);
-  PrintListingRows(FileRows(), "2026-11-22 10:00:00", 0, 0, 1);
-  const auto pages = Pages();
-  ASSERT_EQ(pages.size(), 1u);
-  const std::string top = "    Date/Time: 2026-11-22 10:00:00";
-  EXPECT_EQ(pages[0][0], top + std::string(63 - top.size(), ' ') + "Page No. 001");
-  EXPECT_EQ(pages[0][1], "    File Name: " + ApplFileName);
-  EXPECT_EQ(pages[0][2],
-            "    Compiled : No            KQEdit V3.10.00           KQX File Format V3.10");
-  EXPECT_EQ(pages[0][3], "");
-  EXPECT_EQ(pages[0][4], "    Declared Variables:");
-  EXPECT_EQ(pages[0].size(), 4u + 9u);
-  EXPECT_EQ(pages[0].back(), "    " + std::string(26, ' ') + "r0" + std::string(50, ' '));
-}
-
-TEST_F(PrintingTest, SixtyRowsToAPage) {
-  Remarks(59);  // 125 rows: 60, 60, 5
-  PrintListingRows(FileRows(), "t", 0, 0, 1);
-  const auto pages = Pages();
-  ASSERT_EQ(pages.size(), 3u);
-  EXPECT_EQ(pages[0].size(), 64u);
-  EXPECT_EQ(pages[1].size(), 64u);
-  EXPECT_EQ(pages[2].size(), 9u);
-  EXPECT_NE(pages[1][0].find("Page No. 002"), std::string::npos);
-  EXPECT_NE(pages[2][0].find("Page No. 003"), std::string::npos);
-}
-
 TEST_F(PrintingTest, FileEndingOnAFullPageStartsOneMoreHeader) {
   Remarks(59);
   std::vector<std::string> rows = FileRows();
@@ -82,16 +54,6 @@ TEST_F(PrintingTest, FileEndingOnAFullPageStartsOneMoreHeader) {
   const auto pages = Pages();
   ASSERT_EQ(pages.size(), 3u);
   EXPECT_EQ(pages[2].size(), 4u);  // the header of page 3 alone
-}
-
-TEST_F(PrintingTest, PageRangePrintsOnlyItsPages) {
-  Remarks(59);
-  PrintListingRows(FileRows(), "t", 2, 3, 1);
-  const auto pages = Pages();
-  ASSERT_EQ(pages.size(), 2u);
-  EXPECT_NE(pages[0][0].find("Page No. 002"), std::string::npos);
-  EXPECT_EQ(pages[0][4], "    " + FileRows()[4 + 60]);
-  EXPECT_NE(pages[1][0].find("Page No. 003"), std::string::npos);
 }
 
 // The printer calls as they are made: each copy is a document of its own, ended on the
@@ -113,47 +75,30 @@ class CallLog : public ui::HeadlessPlatform {
   std::vector<std::string> calls;
 };
 
-TEST_F(PrintingTest, EveryCopyEndsItsOwnDocument) {
-  Remarks(30);  // two pages
-  CallLog log;
-  ui::SetPlatform(&log);
-  PrintListingRows(FileRows(), "t", 0, 0, 3);
-  ui::SetPlatform(&platform);
-  const std::vector<std::string> copy = {"row", "newpage", "row", "enddoc"};
-  std::vector<std::string> expected;
-  for (int i = 0; i < 3; ++i) expected.insert(expected.end(), copy.begin(), copy.end());
-  EXPECT_EQ(log.calls, expected);
-}
-
-TEST_F(PrintingTest, RangeStartingLaterOpensNoPageBeforeItsFirst) {
-  Remarks(90);  // 187 rows: four pages
-  CallLog log;
-  ui::SetPlatform(&log);
-  PrintListingRows(FileRows(), "t", 3, 4, 2);
-  ui::SetPlatform(&platform);
-  const std::vector<std::string> copy = {"row", "newpage", "row", "enddoc"};
-  std::vector<std::string> expected;
-  for (int i = 0; i < 2; ++i) expected.insert(expected.end(), copy.begin(), copy.end());
-  EXPECT_EQ(log.calls, expected);
-}
-
-TEST_F(PrintingTest, CopiesRepeatEveryPage) {
-  Remarks(30);  // 67 rows: two pages
-  PrintListingRows(FileRows(), "t", 0, 0, 2);
-  const auto pages = Pages();
-  ASSERT_EQ(pages.size(), 4u);
-  EXPECT_EQ(pages[0], pages[2]);
-  EXPECT_EQ(pages[1], pages[3]);
+TEST_F(PrintingTest, EveryCopyEndsItsOwnDocumentAndARangeOpensNoPageBeforeItsFirst) {
+  struct Case {
+    int remarks, first, last, copies;
+  } cases[] = {{30, 0, 0, 3},   // 67 rows: two pages, three copies
+               {90, 3, 4, 2}};  // 187 rows: four pages, the last two twice
+  for (const Case& c : cases) {
+    list().Clear();
+    Remarks(c.remarks);
+    CallLog log;
+    ui::SetPlatform(&log);
+    PrintListingRows(FileRows(), "t", c.first, c.last, c.copies);
+    ui::SetPlatform(&platform);
+    const std::vector<std::string> copy = {"row", "newpage", "row", "enddoc"};
+    std::vector<std::string> expected;
+    for (int i = 0; i < c.copies; ++i) expected.insert(expected.end(), copy.begin(), copy.end());
+    EXPECT_EQ(log.calls, expected) << c.remarks;
+  }
 }
 
 TEST_F(PrintingTest, PrintCommandWritesTheListingFileThenPrints) {
   Remarks(3);
   platform.QueuePrint(ui::PrintDialogRequest{0, 0, 1, 0});
   PrintCommand();
-  std::ifstream in(dir / "app.TXT", std::ios::binary);
-  std::stringstream text;
-  text << in.rdbuf();
-  const std::string file = text.str();
+  const std::string file = ReadText((dir / "app.TXT").string());
   ASSERT_FALSE(file.empty());
   EXPECT_EQ(file.substr(0, 11), "Date/Time: ");
   EXPECT_EQ(file.substr(file.find("\r\n") + 2, 11 + ApplFileName.size() + 2),
@@ -176,29 +121,9 @@ TEST_F(PrintingTest, FaultInTheListingKeepsThePartialFileAndPrintsNothing) {
   Add("", Rec(43).I32(0, 9));
   platform.QueuePrint(ui::PrintDialogRequest{0, 0, 1, 0});
   PrintCommand();
-  std::ifstream in(dir / "app.TXT", std::ios::binary);
-  std::stringstream text;
-  text << in.rdbuf();
-  EXPECT_NE(text.str().find("On/Off Hook"), std::string::npos);
+  EXPECT_NE(ReadText((dir / "app.TXT").string()).find("On/Off Hook"), std::string::npos);
   EXPECT_EQ(platform.CountOf("page"), 0);
   EXPECT_EQ(platform.CountOf("msgbox"), 0);
-}
-
-}  // namespace
-}  // namespace kq::test
-
-namespace kq::test {
-namespace {
-
-TEST_F(PrintingTest, DialogRangeAndCopiesReachThePrinter) {
-  Remarks(59);  // three pages
-  platform.QueuePrint(ui::PrintDialogRequest{3, 3, 2, 0});
-  PrintCommand();
-  const auto pages = Pages();
-  ASSERT_EQ(pages.size(), 2u);
-  EXPECT_NE(pages[0][0].find("Page No. 003"), std::string::npos);
-  EXPECT_EQ(pages[0], pages[1]);
-  EXPECT_EQ(pages[0].size(), 9u);
 }
 
 }  // namespace

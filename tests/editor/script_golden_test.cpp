@@ -15,18 +15,14 @@
 #include <vector>
 
 #include "cli/cmd_script.h"
+#include "tests/support/test_text.h"
 #include "ui/headless/script_runner.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-std::string ReadText(const fs::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  std::stringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
+using kq::test::ReadText;
 
 std::string ReplaceAll(std::string text, const std::string& from, const std::string& to) {
   for (size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {

@@ -8,6 +8,7 @@
 #include <memory>
 #include <sstream>
 
+#include "tests/support/test_text.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/headless/script_runner.h"
 #include "ui/model/controls.h"
@@ -54,7 +55,6 @@ class frmMain : public ui::Form {
       asked = ask.answered;
       ui::platform().MsgBox("Asked " + asked, ui::vbYesNo | ui::vbQuestion, "Result");
     };
-    cmdFail.OnClick = [] { ui::ProgramError("Impossible state in frmMain."); };
     mnuTools.SetEnabled(false);
     mnuTools.Append(mnuToolsItem);
     AddMenu(mnuTools);
@@ -68,7 +68,6 @@ class frmMain : public ui::Form {
   ui::CommandButton cmdOff{*this, "cmdOff", "Off"};
   ui::CommandButton cmdHidden{*this, "cmdHidden", "Hidden"};
   ui::CommandButton cmdAsk{*this, "cmdAsk", "Ask"};
-  ui::CommandButton cmdFail{*this, "cmdFail", "Fail"};
   ui::Menu mnuTools{*this, "mnuTools", "&Tools"};
   ui::Menu mnuToolsItem{*this, "mnuToolsItem", "&Run", 0};
   std::string asked;
@@ -209,13 +208,6 @@ TEST_F(ScriptRunner, TheLinesAfterAModalDialogActInItUntilItUnloads) {
             platform_->EventsOf("refused")[0].fields["reason"].Str());
 }
 
-TEST_F(ScriptRunner, ADialogLeftOpenAtTheEndIsAWrongScript) {
-  EXPECT_EQ(ui::kScriptWrong, Run("frmMain.cmdAsk.Click\n  frmAsk.txtValue.Type \"1\"\n"));
-  const auto errors = platform_->EventsOf("error");
-  ASSERT_EQ(1u, errors.size());
-  EXPECT_EQ(2, errors[0].fields["line"].Int());
-}
-
 TEST_F(ScriptRunner, WrongLinesStopTheScriptWithTheirLineNumber) {
   const std::vector<std::pair<std::string, std::string>> cases = {
       {"frmMain.cmdNone.Click", "unknown control frmMain.cmdNone"},
@@ -254,14 +246,6 @@ TEST_F(ScriptRunner, WordsOutsideQuotesAreTurnedIntoTheCodePageToo) {
   }
 }
 
-TEST_F(ScriptRunner, AProgramErrorEndsTheRunWithStatusTwo) {
-  EXPECT_EQ(ui::kScriptProgramEnded, Run("frmMain.cmdFail.Click\nfrmMain.txtName.Text \"x\"\n"));
-  const auto lines = Lines();
-  ASSERT_GE(lines.size(), 2u);
-  EXPECT_EQ("{\"event\":\"programend\",\"text\":\"Impossible state in frmMain.\"}", lines.back());
-  EXPECT_EQ("", form_->txtName.Text());
-}
-
 TEST_F(ScriptRunner, ShowAndDumpPrintStates) {
   EXPECT_EQ(0, Run("frmMain.txtName.Focus\nshow frmMain\nshow frmAsk\ndump\n"));
   const auto lines = Lines();
@@ -293,13 +277,10 @@ TEST(ScriptRun, SettingsFileIsReadBeforeAndWrittenAfter) {
   std::ostringstream out;
   EXPECT_EQ(0, ui::RunScript(in, out, options, hooks));
   EXPECT_EQ("hello", seen);
-  std::ifstream back(path, std::ios::binary);
-  std::stringstream content;
-  content << back.rdbuf();
   EXPECT_EQ(
       "Answer=\xC6"
       "42\nGreeting=hello\n",
-      content.str());
+      kq::test::ReadText(path.string()));
   EXPECT_EQ("{\"event\":\"show\",\"form\":\"frmMain\"}\n", out.str());
   std::filesystem::remove(path);
 }

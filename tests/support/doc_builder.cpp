@@ -1,8 +1,8 @@
-#include "tests/editor/doc_builder.h"
+#include "tests/support/doc_builder.h"
 
 #include "document/catalogue.h"
 #include "document/document.h"
-#include "tests/editor/record_layouts.h"
+#include "tests/support/record_layouts.h"
 
 namespace kq::test {
 

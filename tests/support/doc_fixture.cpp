@@ -1,4 +1,4 @@
-#include "tests/document/doc_fixture.h"
+#include "tests/support/doc_fixture.h"
 
 #include <filesystem>
 #include <fstream>

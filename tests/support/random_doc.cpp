@@ -1,12 +1,12 @@
-#include "tests/editor/random_doc.h"
+#include "tests/support/random_doc.h"
 
 #include <string>
 #include <vector>
 
 #include "document/catalogue.h"
 #include "document/state.h"
-#include "tests/editor/doc_builder.h"
-#include "tests/editor/record_layouts.h"
+#include "tests/support/doc_builder.h"
+#include "tests/support/record_layouts.h"
 
 namespace kq::test {
 

@@ -1,4 +1,4 @@
-#include "tests/editor/record_layouts.h"
+#include "tests/support/record_layouts.h"
 
 #include <map>
 

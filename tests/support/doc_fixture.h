@@ -11,17 +11,14 @@
 #include "document/byte_reader.h"
 #include "document/header.h"
 #include "document/records.h"
+#include "tests/support/doc_builder.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 
 namespace kqtest {
 
-class ListHost : public ui::Form {
- public:
-  ListHost() : Form("frmEdit", "Editor") {}
-  ui::ListBox lstEdit{*this, "lstEdit"};
-};
+;
 
 // Fills the record image of function funcNo with bytes that depend on the seed.
 void FillRecord(int funcNo, uint32_t seed, uint8_t* image);
@@ -58,9 +55,14 @@ class DocTest : public ::testing::Test {
   void TearDown() override;
   std::string TempPath(const std::string& name) const;
   ui::ListBox& list() { return host_.lstEdit; }
+  // A field of the last message box, "" when none was shown.
+  std::string LastBox(const char* field = "text") const {
+    auto boxes = platform_.EventsOf("msgbox");
+    return boxes.empty() ? "" : boxes.back().fields[field].Str();
+  }
 
   ui::HeadlessPlatform platform_;
-  ListHost host_;
+  kq::test::EditHost host_;
   std::string dir_;
 };
 
