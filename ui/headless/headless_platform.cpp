@@ -288,6 +288,58 @@ void HeadlessPlatform::EndDoc() {
 
 void HeadlessPlatform::Help(HelpCommand) {}
 
+namespace {
+
+// The plain device, with each command logged as a media event.
+class LoggedMedia : public MediaDevice {
+ public:
+  explicit LoggedMedia(HeadlessPlatform& p) : p_(p) {}
+  int Open(const std::string& deviceType, const std::string& fileName) override {
+    Log("Open", fileName);
+    return MediaDevice::Open(deviceType, fileName);
+  }
+  void Close() override {
+    Log("Close", OpenFile());
+    MediaDevice::Close();
+  }
+  int Play() override {
+    Log("Play", OpenFile());
+    return MediaDevice::Play();
+  }
+  int Record() override {
+    Log("Record", OpenFile());
+    return MediaDevice::Record();
+  }
+  int Stop() override {
+    Log("Stop", OpenFile());
+    return MediaDevice::Stop();
+  }
+  int Seek(int32_t milliseconds) override {
+    Log("Seek", OpenFile());
+    return MediaDevice::Seek(milliseconds);
+  }
+  int Save(const std::string& fileName) override {
+    Log("Save", fileName);
+    return MediaDevice::Save(fileName);
+  }
+
+ private:
+  void Log(const char* command, const std::string& file) {
+    Json j;
+    j.Set("event", "media");
+    j.Set("command", command);
+    j.Set("file", file);
+    p_.Record(std::move(j));
+  }
+  HeadlessPlatform& p_;
+};
+
+}  // namespace
+
+std::unique_ptr<MediaDevice> HeadlessPlatform::CreateMediaDevice() {
+  return std::make_unique<LoggedMedia>(*this);
+}
+
 void HeadlessPlatform::End() {
   throw ProgramEnded(LastProgramError());
 }

@@ -99,6 +99,8 @@ class HeadlessPlatform : public Platform {
   std::string UserDirectory() const override { return userDir_; }
   std::string TempDirectory() const override { return tempDir_; }
   void Help(HelpCommand command) override;
+  // Plays nothing; every command given to it is logged as a media event.
+  std::unique_ptr<MediaDevice> CreateMediaDevice() override;
   [[noreturn]] void End() override;
 
  private:

@@ -10,7 +10,9 @@
 #include "ui/model/file_controls.h"
 #include "ui/model/form.h"
 #include "ui/model/list_controls.h"
+#include "ui/model/media_control.h"
 #include "ui/model/menu.h"
+#include "ui/model/scroll_bar.h"
 
 namespace ui {
 
@@ -195,6 +197,10 @@ Json ControlState(const Control& c) {
       j.Set("text", static_cast<const DriveListBox&>(c).Drive());
       break;
     case ControlKind::DirListBox:
+    case ControlKind::MediaControl:
+      break;
+    case ControlKind::ScrollBar:
+      j.Set("value", static_cast<const HScrollBar&>(c).Value());
       break;
   }
   j.Set("enabled", c.Enabled());
@@ -546,11 +552,20 @@ class Runner {
       } else if (kind == ControlKind::OptionButton) {
         if (v != 1) Wrong("an option button takes 1");
         static_cast<OptionButton&>(c).SetValue(true);
+      } else if (kind == ControlKind::ScrollBar) {
+        static_cast<HScrollBar&>(c).SetValue(v);
       } else {
         NotFor(c, action);
       }
     } else if (action == "Path" && IsDiskList(kind)) {
       ChoosePath(c, StringArg(t, action));
+    } else if (action == "Press" && kind == ControlKind::MediaControl) {
+      Arity(t, 2);
+      const int b = MediaButtonOfName(t[1].text);
+      if (b < 0) Wrong("no media button " + t[1].text);
+      if (!static_cast<MMControl&>(c).UserPress(static_cast<MediaButton>(b))) {
+        Refused(ControlLabel(c) + " button " + t[1].text + " cannot be pressed");
+      }
     } else if (action == "Path" || action == "Press") {
       Arity(t, 2);
       if (action == "Path" && !t[1].quoted) Wrong("Path takes a quoted folder");

@@ -23,6 +23,8 @@ enum class ControlKind {
   DriveListBox,
   DirListBox,
   FileListBox,
+  MediaControl,
+  ScrollBar,
 };
 
 // What changed, for a binding that mirrors the control. Items: first and count of the

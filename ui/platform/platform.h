@@ -3,8 +3,11 @@
 // of the program. The desktop program and the headless runner each provide one.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
+
+#include "ui/platform/media.h"
 
 namespace ui {
 
@@ -103,6 +106,12 @@ class Platform {
   virtual std::string TempDirectory() const = 0;
 
   virtual void Help(HelpCommand command) = 0;
+
+  // A fresh media device for a media control. The plain one reads WAVE headers and plays
+  // nothing.
+  virtual std::unique_ptr<MediaDevice> CreateMediaDevice() {
+    return std::make_unique<MediaDevice>();
+  }
 
   // Ends the program at once, without saving.
   [[noreturn]] virtual void End() = 0;

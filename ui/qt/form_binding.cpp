@@ -1,4 +1,6 @@
 #include "ui/qt/form_binding.h"
+#include "ui/qt/media_binding.h"
+#include "ui/qt/scroll_binding.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -81,6 +83,12 @@ ControlBinding* FormBinding::Bind(Control& control, QWidget* parent) {
       break;
     case ControlKind::Frame:
       b = std::make_unique<FrameBinding>(static_cast<Frame&>(control), parent);
+      break;
+    case ControlKind::MediaControl:
+      b = std::make_unique<MediaBinding>(static_cast<MMControl&>(control), parent);
+      break;
+    case ControlKind::ScrollBar:
+      b = std::make_unique<ScrollBinding>(static_cast<HScrollBar&>(control), parent);
       break;
     case ControlKind::Menu:
       return nullptr;  // menus belong to the bar
