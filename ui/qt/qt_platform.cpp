@@ -1,4 +1,5 @@
 #include "ui/qt/qt_platform.h"
+#include "ui/qt/qt_media.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -412,6 +413,10 @@ void QtPlatform::End() {
   }
   std::fflush(nullptr);
   std::_Exit(1);
+}
+
+std::unique_ptr<MediaDevice> QtPlatform::CreateMediaDevice() {
+  return std::make_unique<QtMediaDevice>();
 }
 
 }  // namespace ui::qt

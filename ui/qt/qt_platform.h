@@ -86,6 +86,7 @@ class QtPlatform : public Platform {
   void EndDoc() override;
   int ScreenWidth() const override;
   int ScreenHeight() const override;
+  std::unique_ptr<MediaDevice> CreateMediaDevice() override;
   std::string DataDirectory() const override;
   std::string UserDirectory() const override;
   std::string TempDirectory() const override;
