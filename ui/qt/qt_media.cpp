@@ -54,15 +54,25 @@ QMediaPlayer& QtMediaDevice::Player() {
     QObject::connect(player_.get(), &QMediaPlayer::positionChanged, [this](qint64) {
       if (onStatus) onStatus();
     });
-    QObject::connect(player_.get(), &QMediaPlayer::playbackStateChanged, [this](auto) {
-      if (onStatus) onStatus();
-    });
+    QObject::connect(player_.get(), &QMediaPlayer::playbackStateChanged,
+                     [this](QMediaPlayer::PlaybackState state) {
+                       if (state != QMediaPlayer::PlayingState) {
+                         SetPosition(static_cast<int32_t>(player_->position()));
+                       }
+                       if (onStatus) onStatus();
+                     });
   }
   return *player_;
 }
 
 QtMediaDevice::~QtMediaDevice() {
   StopRecording();
+  // The player's own threads may still be at work: it goes when the event loop is back.
+  if (player_) {
+    player_->stop();
+    player_.release()->deleteLater();
+    output_.release()->deleteLater();
+  }
 }
 
 int32_t QtMediaDevice::Milliseconds(qsizetype bytes) const {
@@ -104,6 +114,10 @@ int QtMediaDevice::Play() {
     sourceSet_ = false;
     changed_ = false;
   }
+  if (QMediaDevices::audioOutputs().isEmpty()) {
+    // A machine without sound output hears nothing, as the plain device does.
+    return MediaDevice::Play();
+  }
   if (!sourceSet_) {
     Player().setSource(QUrl::fromLocalFile(QString::fromStdString(playFile_)));
     Player().setPosition(MediaDevice::Position());
@@ -117,6 +131,7 @@ int QtMediaDevice::Record() {
   if (!IsOpen()) return kMediaErrorNotOpen;
   if (player_) player_->stop();
   StopRecording();
+  if (QMediaDevices::audioInputs().isEmpty()) return MediaDevice::Record();
   QAudioFormat format;
   format.setSampleRate(static_cast<int>(Le32(fmt_.constData() + 4)));
   format.setChannelCount(qFromLittleEndian<quint16>(fmt_.constData() + 2));
@@ -167,7 +182,8 @@ bool QtMediaDevice::Playing() const {
 }
 
 int32_t QtMediaDevice::Position() const {
-  if (Recording() || !player_ || !sourceSet_) return MediaDevice::Position();
+  // Only a playing player knows better than the last seek or stop.
+  if (!Playing()) return MediaDevice::Position();
   return static_cast<int32_t>(player_->position());
 }
 
