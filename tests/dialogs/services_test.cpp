@@ -106,14 +106,15 @@ TEST_F(ServicesTest, OnlyTheMissingDeclarationIsReported) {
 }
 
 TEST_F(ServicesTest, FunctionWithoutDialogYetSaysSoAndChangesNothing) {
+  DeclarePath(kq::kPathVoice, 0, "Voices");
   kq::FuncOk = true;
-  kq::FuncLine = "Wait for Key     ";
-  kq::GetFuncParm(20);
+  kq::FuncLine = "Voice            ";
+  kq::GetFuncParm(18);
   ASSERT_EQ(p.CountOf("msgbox"), 1);
   EXPECT_EQ(p.Events()[0].fields["title"].Str(), "Function");
   EXPECT_EQ(p.Events()[0].fields["text"].Str(), "This function's dialog is not available yet.");
   EXPECT_FALSE(kq::FuncOk);
-  EXPECT_EQ(kq::FuncLine, "Wait for Key     ");
+  EXPECT_EQ(kq::FuncLine, "Voice            ");
 }
 
 TEST_F(ServicesTest, IllegalFunctionNumbersAreProgramErrors) {
