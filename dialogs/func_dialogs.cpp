@@ -43,6 +43,7 @@
 #include "dialogs/frm_right_str.h"
 #include "dialogs/frm_run.h"
 #include "dialogs/frm_say_file.h"
+#include "dialogs/frm_say_no.h"
 #include "dialogs/frm_select_rec.h"
 #include "dialogs/frm_sound_file_counter.h"
 #include "dialogs/frm_trim_str.h"
@@ -98,6 +99,8 @@ ShowFn DialogOf(int funcNo) {
       return &Show<frmReturn>;
     case 15:
       return &Show<frmRSwitch>;
+    case 16:
+      return &Show<frmSayNo>;
     case 17:
       return &Show<frmVarExp>;
     case 19:

@@ -37,6 +37,7 @@
 #include "dialogs/frm_right_str.h"
 #include "dialogs/frm_run.h"
 #include "dialogs/frm_say_file.h"
+#include "dialogs/frm_say_no.h"
 #include "dialogs/frm_sound_file_counter.h"
 #include "dialogs/frm_trim_str.h"
 #include "dialogs/frm_var_exp.h"
@@ -114,6 +115,7 @@ TEST(DialogLayout, EveryFormPlacesEveryVisibleControlOnce) {
   forms.push_back(std::make_unique<kq::frmRSwitch>());
   forms.push_back(std::make_unique<kq::frmCTBusCon>());
   forms.push_back(std::make_unique<kq::frmSayFile>());
+  forms.push_back(std::make_unique<kq::frmSayNo>());
   forms.push_back(std::make_unique<kq::frmGetKey>());
   forms.push_back(std::make_unique<kq::frmWaitForKey>());
   forms.push_back(std::make_unique<kq::frmRecordSound>());

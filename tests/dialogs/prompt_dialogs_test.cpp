@@ -1,11 +1,16 @@
 // The dialogs of the functions that talk to the caller: Say File, Get Keys, Wait for Key
 // and Record Sound, driven as a person drives them, with their records and DisplayLines.
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
 #include <functional>
 
 #include "dialogs/dialogs.h"
 #include "dialogs/frm_get_key.h"
 #include "dialogs/frm_record_sound.h"
 #include "dialogs/frm_say_file.h"
+#include "dialogs/frm_say_no.h"
 #include "dialogs/frm_wait_for_key.h"
 #include "document/header.h"
 #include "tests/dialogs/dialog_fixture.h"
@@ -26,6 +31,40 @@ class PromptDialogTest : public DialogTest {
 };
 
 const kq::LabelRef kNoLabel = Label("");
+namespace fs = std::filesystem;
+
+// A folder of voice files made for the test, declared as the voice path "Voices"; "Gone"
+// is a voice path whose folder does not exist.
+class VoiceFolderTest : public PromptDialogTest {
+ protected:
+  void SetUp() override {
+    PromptDialogTest::SetUp();
+    root = fs::temp_directory_path() / ("kq_prompt_" + std::to_string(getpid()));
+    fs::remove_all(root);
+    fs::create_directories(root / "voice");
+    for (const char* f : {"b.vox", "a.vox", "c.wav", "A.vox"}) {
+      std::ofstream(root / "voice" / f) << "x";
+    }
+    Declare();
+    DeclareVoice(0, "Voices", (root / "voice").string() + "/");
+    DeclareVoice(1, "Gone", (root / "none").string() + "/");
+    DeclarePath(kq::kPathNumber, 0, "Digits");
+  }
+  void TearDown() override {
+    fs::remove_all(root);
+    PromptDialogTest::TearDown();
+  }
+  static void DeclareVoice(int row, const std::string& name, const std::string& dir) {
+    DeclarePath(kq::kPathVoice, row, name);
+    kq::SetField(kq::PrgHdr.Path[row][kq::kPathVoice - 65].PathText, dir);
+  }
+  static std::vector<std::string> Files(const ui::FileListBox& list) {
+    std::vector<std::string> out;
+    for (int i = 0; i < list.ListCount(); ++i) out.push_back(list.List(i));
+    return out;
+  }
+  fs::path root;
+};
 
 // ---- Say File
 
@@ -234,6 +273,81 @@ TEST_F(PromptDialogTest, RecordSoundWithoutFlagsShowsTheLimitAndSilence) {
   });
   ASSERT_TRUE(kq::FuncOk);
   EXPECT_EQ(kq::FuncLine, Head("", "Record Sound") + "Msg\\Name RT= 999sec. DHD=No S=Quiet 2sec. ");
+}
+
+// ---- Say Number
+
+TEST_F(VoiceFolderTest, SayNumberLayoutsFollowTheVariableAndPlayNeedsAFile) {
+  Run<kq::frmSayNo>(16, [&](kq::frmSayNo& d) {
+    EXPECT_EQ(d.Caption(), "Say Number");
+    EXPECT_EQ(Items(d.cboLayout), (std::vector<std::string>{"All", "1", "2"}));
+    EXPECT_FALSE(d.chkPlay[0].Enabled());  // a Long has no period
+    EXPECT_FALSE(d.filVoice[1].Enabled());
+    EXPECT_EQ(d.filVoice[1].Pattern(), "12345678.123");
+    d.cboVariable.UserSelect(2);  // Name, a String
+    EXPECT_EQ(Items(d.cboLayout), (std::vector<std::string>{"1", "2"}));
+    d.cboLayout.UserSelect(1);
+    d.cboVariable.UserSelect(1);  // Rate, a Double
+    EXPECT_TRUE(d.chkPlay[0].Enabled());
+    d.chkPlay[0].UserClick();
+    EXPECT_TRUE(d.cboPathVar[1].Enabled());
+    EXPECT_EQ(d.filVoice[0].Pattern(), "*.*");
+    EXPECT_EQ(Files(d.filVoice[0]), (std::vector<std::string>{"A.vox", "a.vox", "b.vox", "c.wav"}));
+    d.filVoice[0].SetListIndex(-1);
+    ExpectRefused(d, "filVoice(0)");
+    d.filVoice[0].UserSelect(2);
+    // A path whose folder is gone shows the path message and leaves the list.
+    d.cboPathVar[1].UserSelect(1);
+    EXPECT_EQ(BoxTexts().back(), "Path do not exist for the defined path variable.");
+    d.cboPathVar[1].UserSelect(0);
+    d.filVoice[0].UserSelect(2);
+    d.chkPlay[1].UserClick();
+    d.chkPlay[1].UserClick();  // unchecked again: not played
+    EXPECT_FALSE(d.filVoice[1].Enabled());
+    d.cboVariable.UserSelect(2);  // back to a String: after the period goes
+    EXPECT_EQ(d.chkPlay[0].Value(), 0);
+    EXPECT_FALSE(d.cboPathVar[1].Enabled());
+    d.cboLayout.UserSelect(1);
+    d.cmdOk.UserClick();
+  });
+  ASSERT_TRUE(kq::FuncOk);
+  EXPECT_EQ(kq::FuncLine, Head("", "Say Number") + "Digits\\Name  Layout=2    DHD=No");
+  const kq::SayNumberRec& r = kq::WorkRecord.SayNumber;
+  EXPECT_EQ(r.Layout, 2);
+  EXPECT_EQ(Bytes(r.Number), Bytes(kq::PrgHdr.Variable[2]));
+  EXPECT_EQ(r.PlayFlag[0], 0);
+  EXPECT_EQ(r.PlayFlag[1], 0);
+  EXPECT_EQ(std::string(kq::View(r.SayPath[2])), Field<28>("Digits"));
+}
+
+TEST_F(VoiceFolderTest, SayNumberModifyShowsTheStoredFilesAndWritesBoth) {
+  AddLine("Say", 16);
+  kq::RecordSet rec = kq::InitRecord;
+  kq::SayNumberRec& r = rec.SayNumber;
+  r.Number = kq::PrgHdr.Variable[1];
+  r.Layout = 1;
+  r.PlayFlag[0] = 1;
+  r.PlayFlag[1] = 1;
+  kq::SetField(r.SayPath[0], "Voices");
+  kq::SetField(r.SayPath[1], "Voices");
+  kq::SetField(r.SayPath[2], "Digits");
+  kq::SetField(r.SayVoiceFile[0], "b.vox");
+  kq::SetField(r.SayVoiceFile[1], "c.wav");
+  r.HangupLabel = Label("Bye", 3);
+  PrepareModify(0, rec);
+  Run<kq::frmSayNo>(16, [&](kq::frmSayNo& d) {
+    EXPECT_EQ(d.cboLayout.Text(), "1");
+    EXPECT_EQ(d.filVoice[0].FileName(), "b.vox");
+    EXPECT_EQ(d.filVoice[1].FileName(), "c.wav");
+    d.chkDisableHangup.UserClick();
+    d.cmdOk.UserClick();
+  });
+  ASSERT_TRUE(kq::FuncOk);
+  EXPECT_EQ(kq::FuncLine, Head("Say", "Say Number") +
+                              "Digits\\Rate  Layout=1     After period=Voices\\b.vox  At the "
+                              "end=Voices\\c.wav DHD=Yes H=Bye");
+  r.DisableHangup = 1;
+  EXPECT_EQ(Bytes(kq::WorkRecord.SayNumber), Bytes(r));
 }
 
 }  // namespace
