@@ -49,6 +49,7 @@
 #include "dialogs/frm_trim_str.h"
 #include "dialogs/frm_update_rec.h"
 #include "dialogs/frm_var_exp.h"
+#include "dialogs/frm_voice.h"
 #include "dialogs/frm_wait_for_call.h"
 #include "dialogs/frm_wait_for_key.h"
 #include "dialogs/func_dialog.h"
@@ -103,6 +104,8 @@ ShowFn DialogOf(int funcNo) {
       return &Show<frmSayNo>;
     case 17:
       return &Show<frmVarExp>;
+    case 18:
+      return &Show<frmVoice>;
     case 19:
       return &Show<frmWaitForCall>;
     case 20:

@@ -41,6 +41,7 @@
 #include "dialogs/frm_sound_file_counter.h"
 #include "dialogs/frm_trim_str.h"
 #include "dialogs/frm_var_exp.h"
+#include "dialogs/frm_voice.h"
 #include "dialogs/frm_wait_for_call.h"
 #include "dialogs/frm_wait_for_key.h"
 #include "tests/dialogs/dialog_fixture.h"
@@ -116,6 +117,7 @@ TEST(DialogLayout, EveryFormPlacesEveryVisibleControlOnce) {
   forms.push_back(std::make_unique<kq::frmCTBusCon>());
   forms.push_back(std::make_unique<kq::frmSayFile>());
   forms.push_back(std::make_unique<kq::frmSayNo>());
+  forms.push_back(std::make_unique<kq::frmVoice>());
   forms.push_back(std::make_unique<kq::frmGetKey>());
   forms.push_back(std::make_unique<kq::frmWaitForKey>());
   forms.push_back(std::make_unique<kq::frmRecordSound>());
