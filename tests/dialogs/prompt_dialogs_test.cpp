@@ -16,6 +16,7 @@
 #include "document/header.h"
 #include "tests/dialogs/dialog_fixture.h"
 #include "tests/dialogs/dialog_values.h"
+#include "ui/platform/disk.h"
 
 namespace kqtest {
 namespace {
@@ -466,6 +467,36 @@ TEST_F(VoiceFolderTest, VoicePlayConvertsTheSelectedFileToTheTemporaryWave) {
   });
   EXPECT_EQ(p.CountOf("msgbox"), 2);
   EXPECT_GT(fs::file_size(root / "tmp" / "voice.wav"), 44u);
+}
+
+// The disk of this machine, with a drive whose current directory is gone.
+class GoneDriveDisk : public ui::Disk {
+ public:
+  explicit GoneDriveDisk(ui::Disk& real, std::string current)
+      : real_(real), current_(std::move(current)) {}
+  int ReadFolder(const std::string& folder, std::vector<std::string>& folders,
+                 std::vector<std::string>& files) override {
+    return real_.ReadFolder(folder, folders, files);
+  }
+  std::string CurrentDirectory() override { return current_; }
+  int ChangeDirectory(const std::string& folder) override { return real_.ChangeDirectory(folder); }
+
+ private:
+  ui::Disk& real_;
+  std::string current_;
+};
+
+TEST_F(VoiceFolderTest, VoiceDriveChangeGivesTheDiskMessageAndKeepsTheFolder) {
+  GoneDriveDisk gone(ui::disk(), (root / "gone").string());
+  ui::SetDisk(&gone);
+  Run<kq::frmVoice>(18, [&](kq::frmVoice& d) {
+    d.drvVoice.UserPath("/");
+    EXPECT_EQ(BoxTexts(), (std::vector<std::string>{"Path do not exist."}));
+    EXPECT_EQ(p.EventsOf("msgbox")[0].fields["title"].Str(), "Change voice drive");
+    EXPECT_EQ(d.dirVoice.Path(), (root / "voice").string());
+    EXPECT_EQ(d.filVoice.ListCount(), 3);
+  });
+  ui::SetDisk(nullptr);
 }
 
 }  // namespace
