@@ -352,6 +352,22 @@ TEST_F(VoiceFolderTest, SayNumberModifyShowsTheStoredFilesAndWritesBoth) {
   EXPECT_EQ(Bytes(kq::WorkRecord.SayNumber), Bytes(r));
 }
 
+TEST_F(PromptDialogTest, SayNumberPlayWithoutAVoicePathIsTakenBack) {
+  Declare();
+  DeclarePath(kq::kPathNumber, 0, "Digits");
+  Run<kq::frmSayNo>(16, [&](kq::frmSayNo& d) {
+    d.chkPlay[1].UserClick();
+    EXPECT_EQ(d.chkPlay[1].Value(), 0);
+    EXPECT_FALSE(d.cboPathVar[2].Enabled());
+    EXPECT_EQ(d.filVoice[1].Pattern(), "12345678.123");
+    d.cmdOk.UserClick();
+  });
+  EXPECT_EQ(BoxTexts(),
+            (std::vector<std::string>{"Define a voice path variable before using this function."}));
+  ASSERT_TRUE(kq::FuncOk);
+  EXPECT_EQ(kq::FuncLine, Head("", "Say Number") + "Digits\\Count  Layout=All  DHD=No");
+}
+
 // ---- Voice
 
 TEST_F(VoiceFolderTest, VoiceAddRefusesDuplicatesAndTheSixthAndOkNeedsAFile) {
