@@ -20,6 +20,7 @@
 #include "dialogs/frm_get_date.h"
 #include "dialogs/frm_get_day_of_week.h"
 #include "dialogs/frm_get_first_rec.h"
+#include "dialogs/frm_get_key.h"
 #include "dialogs/frm_get_last_rec.h"
 #include "dialogs/frm_get_next_rec.h"
 #include "dialogs/frm_get_no_rec.h"
@@ -36,16 +37,21 @@
 #include "dialogs/frm_prototype.h"
 #include "dialogs/frm_r_switch.h"
 #include "dialogs/frm_random.h"
+#include "dialogs/frm_record_sound.h"
 #include "dialogs/frm_remark.h"
 #include "dialogs/frm_return.h"
 #include "dialogs/frm_right_str.h"
 #include "dialogs/frm_run.h"
+#include "dialogs/frm_say_file.h"
+#include "dialogs/frm_say_no.h"
 #include "dialogs/frm_select_rec.h"
 #include "dialogs/frm_sound_file_counter.h"
 #include "dialogs/frm_trim_str.h"
 #include "dialogs/frm_update_rec.h"
 #include "dialogs/frm_var_exp.h"
+#include "dialogs/frm_voice.h"
 #include "dialogs/frm_wait_for_call.h"
+#include "dialogs/frm_wait_for_key.h"
 #include "dialogs/func_dialog.h"
 
 namespace kq {
@@ -76,6 +82,8 @@ ShowFn DialogOf(int funcNo) {
       return &Show<frmCallOut>;
     case 6:
       return &Show<frmGetDate>;
+    case 7:
+      return &Show<frmGetKey>;
     case 8:
       return &Show<frmGetTime>;
     case 9:
@@ -84,16 +92,26 @@ ShowFn DialogOf(int funcNo) {
       return &Show<frmGoto>;
     case 11:
       return &Show<frmRandom>;
+    case 12:
+      return &Show<frmRecordSound>;
     case 13:
       return &Show<frmRemark>;
     case 14:
       return &Show<frmReturn>;
     case 15:
       return &Show<frmRSwitch>;
+    case 16:
+      return &Show<frmSayNo>;
     case 17:
       return &Show<frmVarExp>;
+    case 18:
+      return &Show<frmVoice>;
     case 19:
       return &Show<frmWaitForCall>;
+    case 20:
+      return &Show<frmWaitForKey>;
+    case 21:
+      return &Show<frmSayFile>;
     case 24:
       return &Show<frmConnectTbl>;
     case 25:

@@ -5,7 +5,7 @@ packages=(
   build-essential cmake ninja-build pkg-config git
   libgtest-dev libgmock-dev libbenchmark-dev
   libspandsp-dev libsoxr-dev
-  clang clang-format
+  clang clang-format libclang-rt-14-dev
   qt6-base-dev qt6-base-dev-tools qt6-multimedia-dev libqt6opengl6-dev
   libgl-dev xvfb xauth
 )

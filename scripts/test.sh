@@ -14,3 +14,15 @@ if [ "${KQ_SKIP_SANITIZE:-0}" != 1 ]; then
   cmake --build build/sanitize -j "$jobs"
   (cd build/sanitize && ctest --output-on-failure -j "$jobs")
 fi
+# The readers' libFuzzer targets, built with clang (the whole build instrumented), each run
+# for a short bounded time as a smoke test; longer runs are for the developer's machine.
+if [ "${KQ_SKIP_FUZZ:-0}" != 1 ] && command -v clang++ >/dev/null 2>&1; then
+  CXX=clang++ cmake -S . -B build/fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+    -DCMAKE_CXX_FLAGS="-fsanitize=fuzzer-no-link,address,undefined" \
+    -DKQ_BUILD_QT=OFF -DKQ_BUILD_TESTS=OFF -DKQ_BUILD_BENCH=OFF -DKQ_BUILD_FUZZ=ON
+  cmake --build build/fuzz -j "$jobs" --target kqx_reader_fuzz wave_fuzz
+  for target in kqx_reader_fuzz wave_fuzz; do
+    # pipefail makes a fuzzer's failure the script's
+    build/fuzz/fuzz/$target -runs=20000 -max_total_time=60 2>&1 | tail -n 1
+  done
+fi

@@ -20,6 +20,7 @@
 #include "dialogs/frm_get_ch_no.h"
 #include "dialogs/frm_get_date.h"
 #include "dialogs/frm_get_day_of_week.h"
+#include "dialogs/frm_get_key.h"
 #include "dialogs/frm_get_time.h"
 #include "dialogs/frm_gosub.h"
 #include "dialogs/frm_goto.h"
@@ -30,14 +31,19 @@
 #include "dialogs/frm_prototype.h"
 #include "dialogs/frm_r_switch.h"
 #include "dialogs/frm_random.h"
+#include "dialogs/frm_record_sound.h"
 #include "dialogs/frm_remark.h"
 #include "dialogs/frm_return.h"
 #include "dialogs/frm_right_str.h"
 #include "dialogs/frm_run.h"
+#include "dialogs/frm_say_file.h"
+#include "dialogs/frm_say_no.h"
 #include "dialogs/frm_sound_file_counter.h"
 #include "dialogs/frm_trim_str.h"
 #include "dialogs/frm_var_exp.h"
+#include "dialogs/frm_voice.h"
 #include "dialogs/frm_wait_for_call.h"
+#include "dialogs/frm_wait_for_key.h"
 #include "tests/dialogs/dialog_fixture.h"
 
 namespace kqtest {
@@ -109,6 +115,12 @@ TEST(DialogLayout, EveryFormPlacesEveryVisibleControlOnce) {
   forms.push_back(std::make_unique<kq::frmCallOut>());
   forms.push_back(std::make_unique<kq::frmRSwitch>());
   forms.push_back(std::make_unique<kq::frmCTBusCon>());
+  forms.push_back(std::make_unique<kq::frmSayFile>());
+  forms.push_back(std::make_unique<kq::frmSayNo>());
+  forms.push_back(std::make_unique<kq::frmVoice>());
+  forms.push_back(std::make_unique<kq::frmGetKey>());
+  forms.push_back(std::make_unique<kq::frmWaitForKey>());
+  forms.push_back(std::make_unique<kq::frmRecordSound>());
   for (const auto& f : forms) ExpectLaidOut(*f);
 }
 

@@ -105,15 +105,10 @@ TEST_F(ServicesTest, OnlyTheMissingDeclarationIsReported) {
       (std::vector<std::string>{"Define a message path variable before using this function."}));
 }
 
-TEST_F(ServicesTest, FunctionWithoutDialogYetSaysSoAndChangesNothing) {
-  kq::FuncOk = true;
-  kq::FuncLine = "Wait for Key     ";
-  kq::GetFuncParm(20);
-  ASSERT_EQ(p.CountOf("msgbox"), 1);
-  EXPECT_EQ(p.Events()[0].fields["title"].Str(), "Function");
-  EXPECT_EQ(p.Events()[0].fields["text"].Str(), "This function's dialog is not available yet.");
-  EXPECT_FALSE(kq::FuncOk);
-  EXPECT_EQ(kq::FuncLine, "Wait for Key     ");
+TEST_F(ServicesTest, EveryLiveFunctionHasADialogAndNoOtherNumber) {
+  for (int funcNo = -1; funcNo <= kq::kFuncCount; ++funcNo) {
+    EXPECT_EQ(kq::HasFuncDialog(funcNo), kq::IsLiveFunction(funcNo)) << funcNo;
+  }
 }
 
 TEST_F(ServicesTest, IllegalFunctionNumbersAreProgramErrors) {

@@ -298,4 +298,50 @@ TEST_F(MergeTest, InsertIntoALargeDocumentShiftsEveryLine) {
   EXPECT_EQ(list().List(10).substr(0, 4), "0010");
 }
 
+// Save Part of lines 5 to 9, then Insert of that part back at the start, in the middle and
+// at the end: the part's lines arrive in order with their labels and records, every line
+// is numbered by its new place, and the lines around keep their own records.
+TEST_F(MergeTest, SavedPartInsertsBackAtStartMiddleAndEnd) {
+  const int funcs[] = {0, 3, 4, 10, 13, 17, 19, 20, 27, 34, 53, 55};
+  struct Line {
+    std::string text;
+    ProgramLine entry;
+    std::vector<uint8_t> block;
+  };
+  std::vector<Line> original;
+  const std::string part = TempPath("part.kqx");
+  auto build = [&] {
+    InitDocument();
+    list().Clear();
+    for (int i = 0; i < 12; ++i) kqtest::AddLine(funcs[i], "L" + std::to_string(i), 100 + i);
+  };
+  build();
+  for (int i = 0; i < 12; ++i) {
+    const int f = LineTable[i].LineFuncNo;
+    original.push_back({list().List(i), LineTable[i],
+                        std::vector<uint8_t>(FuncBlock[i], FuncBlock[i] + kCatalogueLength[f])});
+  }
+  std::string title = "part.kqx", name = part;
+  int16_t count = 5;
+  SaveFile(title, name, false, 5, 9, count);
+
+  for (const int at : {0, 6, 12}) {
+    build();
+    Insert(part, at);
+    ASSERT_EQ(list().ListCount(), 17) << at;
+    for (int j = 0; j < 17; ++j) {
+      const int from = j < at ? j : j < at + 5 ? 5 + (j - at) : j - 5;
+      const Line& want = original[from];
+      std::string text = Format0000(j) + want.text.substr(4);
+      // The inserted lines are read as the file holds them: 180 characters, blanks behind.
+      if (j >= at && j < at + 5) text.resize(kDisplayLineWidth, ' ');
+      EXPECT_EQ(list().List(j), text) << at << " " << j;
+      EXPECT_EQ(std::memcmp(&LineTable[j], &want.entry, sizeof(ProgramLine)), 0) << at << j;
+      EXPECT_EQ(std::memcmp(FuncBlock[j], want.block.data(), want.block.size()), 0) << at << j;
+    }
+    EXPECT_EQ(PrgHdr.LineCount, 17);
+    EXPECT_TRUE(ChangedFlag);
+  }
+}
+
 }  // namespace

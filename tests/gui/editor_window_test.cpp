@@ -17,6 +17,7 @@
 #include <memory>
 
 #include <QTextBrowser>
+#include "dialogs/dialogs.h"
 #include "dialogs/frm_condition.h"
 #include "dialogs/frm_def_var.h"
 #include "dialogs/frm_func.h"
@@ -193,6 +194,16 @@ TEST_F(EditorWindowTest, GeometryFollowsTheModelInTwips) {
   form->Move(1500, 1500, 9000, 6000);
   EXPECT_EQ(window()->frameGeometry().topLeft(), QPoint(100, 100));
   EXPECT_EQ(window()->frameGeometry().width(), 600);
+  // A dialog stands where CenterForm puts it: centred over the main window.
+  QRect dialogRect;
+  platform.QueueModal([&](QDialog& dialog, FormBinding& b) {
+    dialogRect = dialog.geometry();
+    b.form().FindControl("cmdCancel")->UserClick();
+  });
+  kq::ShowFunctionPicker();
+  const QPoint mainCentre(100 + 300, 100 + 200);
+  EXPECT_NEAR(dialogRect.center().x(), mainCentre.x(), 2);
+  EXPECT_NEAR(dialogRect.center().y(), mainCentre.y(), 2);
 }
 
 }  // namespace

@@ -214,8 +214,13 @@ void QtPlatform::SetMousePointer(int pointer) {
 void QtPlatform::ShowModal(Form& form) {
   auto* window = new DialogWindow(form, TopWindow());
   dialogs_.emplace_back(&form, window);
+  // The form learns the size its grid gives it before Load, so that CenterForm places the
+  // dialog by its real size; the window then stands where the form says, in twips.
+  window->adjustSize();
+  form.Move(form.Left(), form.Top(), ToTwips(window->width()), ToTwips(window->height()));
   form.DoLoad();
   if (form.Loaded()) {
+    window->move(ToPixels(form.Left()), ToPixels(form.Top()));
     if (!modal_.empty()) {
       auto action = std::move(modal_.front());
       modal_.pop_front();
