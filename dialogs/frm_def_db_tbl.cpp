@@ -5,7 +5,6 @@
 #include "dialogs/services.h"
 #include "document/state.h"
 #include "document/text.h"
-#include "ui/platform/platform.h"
 
 namespace kq {
 
@@ -34,7 +33,7 @@ frmDefDBTbl::frmDefDBTbl()
     c.SetStyle(ui::ComboBox::Style::DropdownList);
     c.SetWidth(2400);
   }
-  SetUpButtons(true);
+  SetUpButtons(/*clearEnabled=*/true);
 
   // Names on the left, the fields in two columns of twelve, the buttons on the right.
   Place(lblVariable, 0, 0);

@@ -26,7 +26,7 @@ frmDefPath::frmDefPath()
   filPath.SetWidth(3000);
   drvPath.OnChange = [this] { drvPath_Change(); };
   dirPath.OnChange = [this] { dirPath_Change(); };
-  SetUpButtons(false);
+  SetUpButtons(/*clearEnabled=*/false);
 
   Place(lblVariable, 0, 0);
   Place(txtName, 1, 0);

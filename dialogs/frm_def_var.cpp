@@ -15,7 +15,7 @@ frmDefVar::frmDefVar() : DeclarationForm("frmDefVar", "Define Variable", "Variab
     optDataType[i].OnKeyPress = [this, i](int& k) { optDataType_KeyPress(i, k); };
     fraDataType.Place(optDataType[i], i, 0);
   }
-  SetUpButtons(true);
+  SetUpButtons(/*clearEnabled=*/true);
 
   Place(lblVariable, 0, 0);
   Place(txtName, 1, 0);
@@ -34,7 +34,7 @@ void frmDefVar::Form_Load() {
     lstVariable.AddItem(NulToBlank(View(v.VarRefName)));
     lstDataType.AddItem(Num(v.VarRefType), lstVariable.NewIndex());
   }
-  cmdClear.SetEnabled(lstVariable.ListCount() > 0);
+  EnableClear();
 }
 
 void frmDefVar::optDataType_KeyPress(int /*Index*/, int& keyAscii) {
