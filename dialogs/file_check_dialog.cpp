@@ -59,6 +59,35 @@ void FileCheckDialog::ReadFileVar(ui::ComboBox& combo, VarRef& file) {
   AssignListBoxVar(combo, kVarString, file);
 }
 
+void FileCheckDialog::PlaceFileRows(ui::Label& pathType, ui::Label& pathVar, ui::Label& file,
+                                    ui::ComboBox& fileVar) {
+  PlaceLabelRow();
+  Place(lblCondition, 1, 0);
+  Place(pathType, 2, 0);
+  Place(cboPath, 2, 1);
+  Place(pathVar, 3, 0);
+  Place(cboPathVar, 3, 1);
+  Place(file, 4, 0);
+  Place(fileVar, 4, 1);
+  Place(lblThenLabel, 5, 0);
+  Place(cboLabel[0], 5, 1);
+  Place(lblElseLabel, 6, 0);
+  Place(cboLabel[1], 6, 1);
+  PlaceButtonRow(7, 3);
+}
+
+void FileCheckDialog::LoadFileCheck(const CheckFileRec& r, ui::ComboBox& fileVar) {
+  LoadPath(r.PathType, View(r.PathVar));
+  LoadFileVar(fileVar, r.FileVar);
+  LoadLabels(r.CheckLabel);
+}
+
+void FileCheckDialog::ReadFileCheck(CheckFileRec& r, ui::ComboBox& fileVar) {
+  ReadPath(r.PathType, r.PathVar);
+  ReadFileVar(fileVar, r.FileVar);
+  ReadLabels(r.CheckLabel);
+}
+
 bool FileCheckDialog::LabelsGiven() {
   if (!RTrim(cboLabel[0].Text()).empty() || !RTrim(cboLabel[1].Text()).empty()) return true;
   return RequireLabel(cboLabel[1]);

@@ -31,6 +31,14 @@ class FileCheckDialog : public FuncDialog {
   static void LoadFileVar(ui::ComboBox& combo, const VarRef& file);
   static void ReadFileVar(ui::ComboBox& combo, VarRef& file);
 
+  // Check File and Delete File: the rows of path type, path variable, the file (its label
+  // and combo) and the two targets, with the button row below.
+  void PlaceFileRows(ui::Label& pathType, ui::Label& pathVar, ui::Label& file,
+                     ui::ComboBox& fileVar);
+  // Their record into the controls, and back.
+  void LoadFileCheck(const CheckFileRec& r, ui::ComboBox& fileVar);
+  void ReadFileCheck(CheckFileRec& r, ui::ComboBox& fileVar);
+
   // Refuses two empty targets: the else-target is emptied, focused, beep.
   bool LabelsGiven();
   void ReadPath(int32_t& pathType, char (&pathVar)[28]);

@@ -5,13 +5,10 @@
 #include "dialogs/services.h"
 #include "document/state.h"
 #include "document/text.h"
-#include "ui/platform/platform.h"
 
 namespace kq {
 
 namespace {
-
-constexpr const char* kAddError = "Database table name add error";
 
 bool SameName(const char (&a)[28], const char (&b)[28]) {
   return std::memcmp(a, b, sizeof a) == 0;
@@ -26,33 +23,17 @@ int TakeGroup(std::string& columns) {
 
 }  // namespace
 
-frmDefDBTbl::frmDefDBTbl() : Form("frmDefDBTbl", "Define Database Tables") {
-  txtName.SetMaxLength(15);
-  txtName.SetWidth(2400);
-  txtName.OnChange = [this] { txtName_Change(); };
-  txtName.OnKeyPress = [this](int& k) { txtName_KeyPress(k); };
-  lstVariable.SetSorted(true);
-  lstVariable.SetWidth(2400);
-  lstVariable.OnClick = [this] { lstVariable_Click(); };
-  lstVariable.OnDblClick = [this] { cmdModify_Click(); };
-  lstColumnVar.SetVisible(false);
+frmDefDBTbl::frmDefDBTbl()
+    : DeclarationForm("frmDefDBTbl", "Define Database Tables", "Database table name",
+                      "database table names") {
+  Bind({txtName, lstVariable, lstColumnVar, cmdAdd, cmdModify, cmdDelete, cmdClear, cmdOk,
+        cmdCancel});
+  SetUpNameAndLists(15);
   for (ui::ComboBox& c : cboVariable) {
     c.SetStyle(ui::ComboBox::Style::DropdownList);
     c.SetWidth(2400);
   }
-  cmdAdd.SetDefault(true);
-  cmdAdd.SetEnabled(false);
-  cmdModify.SetEnabled(false);
-  cmdDelete.SetEnabled(false);
-  cmdAdd.OnClick = [this] { cmdAdd_Click(); };
-  cmdModify.OnClick = [this] { cmdModify_Click(); };
-  cmdDelete.OnClick = [this] { cmdDelete_Click(); };
-  cmdClear.OnClick = [this] { cmdClear_Click(); };
-  cmdOk.OnClick = [this] { cmdOk_Click(); };
-  cmdCancel.OnClick = [this] { cmdCancel_Click(); };
-  for (ui::CommandButton* b : {&cmdAdd, &cmdModify, &cmdDelete, &cmdClear, &cmdOk, &cmdCancel}) {
-    b->SetWidth(1200);
-  }
+  SetUpButtons(/*clearEnabled=*/true);
 
   // Names on the left, the fields in two columns of twelve, the buttons on the right.
   Place(lblVariable, 0, 0);
@@ -65,12 +46,7 @@ frmDefDBTbl::frmDefDBTbl() : Form("frmDefDBTbl", "Define Database Tables") {
     Place(lblColumn[j], row, column);
     Place(cboVariable[j], row, column + 1);
   }
-  Place(cmdAdd, 1, 5);
-  Place(cmdModify, 2, 5);
-  Place(cmdDelete, 3, 5);
-  Place(cmdClear, 4, 5);
-  Place(cmdOk, 11, 5);
-  Place(cmdCancel, 12, 5);
+  PlaceButtons(1, 11, 5);
   Move(0, 0, 10800, 5400);
 }
 
@@ -122,23 +98,8 @@ void frmDefDBTbl::UnbindAll() {
   for (ui::ComboBox& c : cboVariable) c.SetListIndex(0);
 }
 
-void frmDefDBTbl::MarkChanged() {
-  ChangedFlag = true;
-  PrgHdr.CompiledFlag = 0;
-}
-
-void frmDefDBTbl::EnableSelectionButtons() {
-  const bool selected = lstVariable.SelCount() > 0;
-  cmdModify.SetEnabled(selected);
-  cmdDelete.SetEnabled(selected);
-}
-
-void frmDefDBTbl::txtName_Change() {
-  cmdAdd.SetEnabled(!txtName.Text().empty());
-}
-
 void frmDefDBTbl::txtName_KeyPress(int& keyAscii) {
-  LegalInput(txtName, 2, keyAscii);
+  DeclarationForm::txtName_KeyPress(keyAscii);
   // A name being typed starts a new table: its fields are bound after the name.
   UnbindAll();
 }
@@ -159,14 +120,11 @@ void frmDefDBTbl::cmdAdd_Click() {
   for (const ui::ComboBox& c : cboVariable) anyBound = anyBound || c.ListIndex() > 0;
 
   if (lstVariable.ListCount() >= kMaxTables) {
-    ui::platform().MsgBox("Maximum number of database table names are " + Str(int64_t{kMaxTables}),
-                          ui::vbOKOnly | ui::vbExclamation, kAddError);
+    ShowListFull(kMaxTables);
   } else if (exists) {
-    ui::platform().MsgBox("Database table name " + name + " exist already.",
-                          ui::vbOKOnly | ui::vbExclamation, kAddError);
+    ShowExists(name);
   } else if (!anyBound) {
-    ui::platform().MsgBox("No variables are selected.", ui::vbOKOnly | ui::vbExclamation,
-                          kAddError);
+    ShowAddError("No variables are selected.");
   } else {
     lstVariable.AddItem(name);
     const int at = lstVariable.NewIndex();
@@ -180,36 +138,22 @@ void frmDefDBTbl::cmdAdd_Click() {
 
 void frmDefDBTbl::cmdModify_Click() {
   // The combos keep the fields of the table taken out: change them, then Add.
-  txtName.SetText(RTrim(lstVariable.List(lstVariable.ListIndex())));
-  cmdDelete_Click();
-  txtName.SetFocus();
-  cmdModify.SetEnabled(lstVariable.SelCount() > 0);
+  TakeSelectedIntoBox();
   MarkChanged();
 }
 
 void frmDefDBTbl::cmdDelete_Click() {
-  const int index = lstVariable.ListIndex();
-  if (index >= 0 && lstVariable.Selected(index)) {
-    lstVariable.RemoveItem(index);
-    lstColumnVar.RemoveItem(index);
-  } else {
-    ui::platform().Beep();
-  }
+  RemoveSelected();
   EnableSelectionButtons();
   MarkChanged();
 }
 
 void frmDefDBTbl::cmdClear_Click() {
-  if (ui::platform().MsgBox("Clear all the database table names ?",
-                            ui::vbOKCancel | ui::vbExclamation, "Confirm clear") == ui::vbOK) {
-    lstVariable.Clear();
-    lstColumnVar.Clear();
+  if (ConfirmClear()) {
     UnbindAll();
     cmdDelete.SetEnabled(false);
   }
-  txtName.SetText("");
-  txtName.SetFocus();
-  MarkChanged();
+  AfterClear();
 }
 
 void frmDefDBTbl::cmdOk_Click() {
@@ -236,10 +180,6 @@ void frmDefDBTbl::cmdOk_Click() {
     }
     SetField(entry.TableName, RTrim(lstVariable.List(t)));
   }
-  Unload();
-}
-
-void frmDefDBTbl::cmdCancel_Click() {
   Unload();
 }
 

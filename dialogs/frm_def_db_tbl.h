@@ -5,13 +5,13 @@
 
 #include <string>
 
+#include "dialogs/declaration_form.h"
 #include "ui/model/controls.h"
-#include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 
 namespace kq {
 
-class frmDefDBTbl : public ui::Form {
+class frmDefDBTbl : public DeclarationForm {
  public:
   static constexpr int kFields = 24;
 
@@ -55,15 +55,13 @@ class frmDefDBTbl : public ui::Form {
   void Form_Load() override;
 
  private:
-  void txtName_Change();
-  void txtName_KeyPress(int& keyAscii);
-  void lstVariable_Click();
-  void cmdAdd_Click();
-  void cmdModify_Click();
-  void cmdDelete_Click();
-  void cmdClear_Click();
-  void cmdOk_Click();
-  void cmdCancel_Click();
+  void txtName_KeyPress(int& keyAscii) override;
+  void lstVariable_Click() override;
+  void cmdAdd_Click() override;
+  void cmdModify_Click() override;
+  void cmdDelete_Click() override;
+  void cmdClear_Click() override;
+  void cmdOk_Click() override;
 
   // The column list of one table entry as the combos will show it; the combos are set too.
   std::string LoadColumns(int table);
@@ -71,8 +69,6 @@ class frmDefDBTbl : public ui::Form {
   std::string ColumnsOfCombos() const;
   // Every field combo back to its blank first item.
   void UnbindAll();
-  void EnableSelectionButtons();
-  void MarkChanged();
 };
 
 }  // namespace kq

@@ -16,35 +16,17 @@ constexpr int kMaxRetries = 100;  // a Retry answered for ever must not hang the
 
 }  // namespace
 
-frmDefPath::frmDefPath() : Form("frmDefPath", "Define Paths") {
-  txtName.SetMaxLength(14);
-  txtName.SetWidth(2400);
-  txtName.OnChange = [this] { txtName_Change(); };
-  txtName.OnKeyPress = [this](int& k) { txtName_KeyPress(k); };
-  lstVariable.SetSorted(true);
-  lstVariable.SetWidth(2400);
-  lstVariable.OnClick = [this] { lstVariable_Click(); };
-  lstVariable.OnDblClick = [this] { cmdModify_Click(); };
-  lstDataType.SetVisible(false);
+frmDefPath::frmDefPath()
+    : DeclarationForm("frmDefPath", "Define Paths", "Path name", "path names") {
+  Bind({txtName, lstVariable, lstDataType, cmdAdd, cmdModify, cmdDelete, cmdClear, cmdOk,
+        cmdCancel});
+  SetUpNameAndLists(14);
   drvPath.SetWidth(3000);
   dirPath.SetWidth(3000);
   filPath.SetWidth(3000);
   drvPath.OnChange = [this] { drvPath_Change(); };
   dirPath.OnChange = [this] { dirPath_Change(); };
-  cmdAdd.SetDefault(true);
-  cmdAdd.SetEnabled(false);
-  cmdModify.SetEnabled(false);
-  cmdDelete.SetEnabled(false);
-  cmdClear.SetEnabled(false);
-  cmdAdd.OnClick = [this] { cmdAdd_Click(); };
-  cmdModify.OnClick = [this] { cmdModify_Click(); };
-  cmdDelete.OnClick = [this] { cmdDelete_Click(); };
-  cmdClear.OnClick = [this] { cmdClear_Click(); };
-  cmdOk.OnClick = [this] { cmdOk_Click(); };
-  cmdCancel.OnClick = [this] { cmdCancel_Click(); };
-  for (ui::CommandButton* b : {&cmdAdd, &cmdModify, &cmdDelete, &cmdClear, &cmdOk, &cmdCancel}) {
-    b->SetWidth(1200);
-  }
+  SetUpButtons(/*clearEnabled=*/false);
 
   Place(lblVariable, 0, 0);
   Place(txtName, 1, 0);
@@ -52,12 +34,7 @@ frmDefPath::frmDefPath() : Form("frmDefPath", "Define Paths") {
   Place(drvPath, 0, 1);
   Place(dirPath, 1, 1, 4, 1);
   Place(filPath, 5, 1, 3, 1);
-  Place(cmdAdd, 0, 2);
-  Place(cmdModify, 1, 2);
-  Place(cmdDelete, 2, 2);
-  Place(cmdClear, 3, 2);
-  Place(cmdOk, 6, 2);
-  Place(cmdCancel, 7, 2);
+  PlaceButtons(0, 6, 2);
   Move(0, 0, 8400, 5400);
 }
 
@@ -101,27 +78,12 @@ bool frmDefPath::ShowDirectory(const std::string& directory) {
   return false;
 }
 
-void frmDefPath::MarkChanged() {
-  ChangedFlag = true;
-  PrgHdr.CompiledFlag = 0;
-}
-
-void frmDefPath::txtName_Change() {
-  cmdAdd.SetEnabled(!txtName.Text().empty());
-}
-
-void frmDefPath::txtName_KeyPress(int& keyAscii) {
-  LegalInput(txtName, 2, keyAscii);
-}
-
 void frmDefPath::lstVariable_Click() {
   if (skipClick_) {
     skipClick_ = false;
     return;
   }
-  const bool selected = lstVariable.SelCount() > 0;
-  cmdModify.SetEnabled(selected);
-  cmdDelete.SetEnabled(selected);
+  EnableSelectionButtons();
   const int index = lstVariable.ListIndex();
   if (index >= 0) ShowDirectory(RTrim(lstDataType.List(index)));
 }
@@ -148,64 +110,39 @@ void frmDefPath::dirPath_Change() {
 void frmDefPath::cmdAdd_Click() {
   const std::string name = txtName.Text();
   if (lstVariable.ListCount() >= kPathRows) {
-    ui::platform().MsgBox("Maximum number of path names are " + Str(int64_t{kPathRows}),
-                          ui::vbOKOnly | ui::vbExclamation, "Path name add error");
+    ShowListFull(kPathRows);
+  } else if (Listed(name)) {
+    ShowExists(name);
   } else {
-    bool exists = false;
-    // The item one past the end reads as empty, as the list control answers it.
-    for (int i = 0; i <= lstVariable.ListCount() && !exists; ++i) {
-      exists = RTrim(lstVariable.List(i)) == name;
-    }
-    if (exists) {
-      ui::platform().MsgBox("Path name " + name + " exist already.",
-                            ui::vbOKOnly | ui::vbExclamation, "Path name add error");
-    } else {
-      std::string directory = dirPath.Path();
-      if (directory.empty() || directory.back() != '/') directory += '/';
-      lstVariable.AddItem(name);
-      lstDataType.AddItem(directory, lstVariable.NewIndex());
-      txtName.SetText("");
-      cmdClear.SetEnabled(lstVariable.ListCount() > 0);
-    }
+    std::string directory = dirPath.Path();
+    if (directory.empty() || directory.back() != '/') directory += '/';
+    lstVariable.AddItem(name);
+    lstDataType.AddItem(directory, lstVariable.NewIndex());
+    txtName.SetText("");
+    EnableClear();
   }
   txtName.SetFocus();
   MarkChanged();
 }
 
 void frmDefPath::cmdModify_Click() {
-  txtName.SetText(RTrim(lstVariable.List(lstVariable.ListIndex())));
-  cmdDelete_Click();
-  txtName.SetFocus();
-  cmdModify.SetEnabled(lstVariable.SelCount() > 0);
+  TakeSelectedIntoBox();
 }
 
 void frmDefPath::cmdDelete_Click() {
-  const int index = lstVariable.ListIndex();
-  if (index >= 0 && lstVariable.Selected(index)) {
-    lstVariable.RemoveItem(index);
-    lstDataType.RemoveItem(index);
-  } else {
-    ui::platform().Beep();
-  }
-  const bool selected = lstVariable.SelCount() > 0;
-  cmdModify.SetEnabled(selected);
-  cmdDelete.SetEnabled(selected);
-  cmdClear.SetEnabled(lstVariable.ListCount() > 0);
+  RemoveSelected();
+  EnableSelectionButtons();
+  EnableClear();
   MarkChanged();
 }
 
 void frmDefPath::cmdClear_Click() {
-  if (ui::platform().MsgBox("Clear all the path names ?", ui::vbOKCancel | ui::vbExclamation,
-                            "Confirm clear") == ui::vbOK) {
-    lstVariable.Clear();
-    lstDataType.Clear();
+  if (ConfirmClear()) {
     cmdModify.SetEnabled(false);
     cmdDelete.SetEnabled(false);
     cmdClear.SetEnabled(false);
   }
-  txtName.SetText("");
-  txtName.SetFocus();
-  MarkChanged();
+  AfterClear();
 }
 
 void frmDefPath::cmdOk_Click() {
@@ -217,10 +154,6 @@ void frmDefPath::cmdOk_Click() {
     SetField(PrgHdr.Path[i][type].PathText, RTrim(lstDataType.List(i)));
     SetField(PrgHdr.Path[i][type].PathName, RTrim(lstVariable.List(i)));
   }
-  Unload();
-}
-
-void frmDefPath::cmdCancel_Click() {
   Unload();
 }
 

@@ -3,14 +3,14 @@
 // aligned lists (the visible sorted names, the hidden directories) and written back on OK.
 #pragma once
 
+#include "dialogs/declaration_form.h"
 #include "ui/model/controls.h"
 #include "ui/model/file_controls.h"
-#include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 
 namespace kq {
 
-class frmDefPath : public ui::Form {
+class frmDefPath : public DeclarationForm {
  public:
   frmDefPath();
 
@@ -32,24 +32,20 @@ class frmDefPath : public ui::Form {
   void Form_Load() override;
 
  private:
-  void txtName_Change();
-  void txtName_KeyPress(int& keyAscii);
-  void lstVariable_Click();
+  void lstVariable_Click() override;
   void drvPath_Change();
   void dirPath_Change();
-  void cmdAdd_Click();
-  void cmdModify_Click();
-  void cmdDelete_Click();
-  void cmdClear_Click();
-  void cmdOk_Click();
-  void cmdCancel_Click();
+  void cmdAdd_Click() override;
+  void cmdModify_Click() override;
+  void cmdDelete_Click() override;
+  void cmdClear_Click() override;
+  void cmdOk_Click() override;
   // The kind letter (65 to 69) of the Define menu item that opened the dialog; any other
   // item is a program fault, reported with the name of the procedure that found it.
   int KindLetter(const char* procedure) const;
   // Points the drive and directory lists at a directory; a missing drive or directory is
   // shown by HandlePathError. False when it could not be shown.
   bool ShowDirectory(const std::string& directory);
-  void MarkChanged();
 
   // The first click on the list (the selection made by Load) does nothing.
   bool skipClick_ = false;

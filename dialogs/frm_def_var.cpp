@@ -7,44 +7,21 @@
 
 namespace kq {
 
-frmDefVar::frmDefVar() : Form("frmDefVar", "Define Variable") {
-  txtName.SetMaxLength(14);
-  txtName.SetWidth(2400);
-  txtName.OnChange = [this] { txtName_Change(); };
-  txtName.OnKeyPress = [this](int& k) { txtName_KeyPress(k); };
-  lstVariable.SetSorted(true);
-  lstVariable.SetWidth(2400);
-  lstVariable.OnClick = [this] { lstVariable_Click(); };
-  lstVariable.OnDblClick = [this] { cmdModify_Click(); };
-  lstDataType.SetVisible(false);
+frmDefVar::frmDefVar() : DeclarationForm("frmDefVar", "Define Variable", "Variable", "variables") {
+  Bind({txtName, lstVariable, lstDataType, cmdAdd, cmdModify, cmdDelete, cmdClear, cmdOk,
+        cmdCancel});
+  SetUpNameAndLists(14);
   for (int i = 0; i < 3; ++i) {
     optDataType[i].OnKeyPress = [this, i](int& k) { optDataType_KeyPress(i, k); };
     fraDataType.Place(optDataType[i], i, 0);
   }
-  cmdAdd.SetDefault(true);
-  cmdAdd.SetEnabled(false);
-  cmdModify.SetEnabled(false);
-  cmdDelete.SetEnabled(false);
-  cmdAdd.OnClick = [this] { cmdAdd_Click(); };
-  cmdModify.OnClick = [this] { cmdModify_Click(); };
-  cmdDelete.OnClick = [this] { cmdDelete_Click(); };
-  cmdClear.OnClick = [this] { cmdClear_Click(); };
-  cmdOk.OnClick = [this] { cmdOk_Click(); };
-  cmdCancel.OnClick = [this] { cmdCancel_Click(); };
-  for (ui::CommandButton* b : {&cmdAdd, &cmdModify, &cmdDelete, &cmdClear, &cmdOk, &cmdCancel}) {
-    b->SetWidth(1200);
-  }
+  SetUpButtons(/*clearEnabled=*/true);
 
   Place(lblVariable, 0, 0);
   Place(txtName, 1, 0);
   Place(lstVariable, 2, 0, 6, 1);
   Place(fraDataType, 0, 1, 3, 1);
-  Place(cmdAdd, 0, 2);
-  Place(cmdModify, 1, 2);
-  Place(cmdDelete, 2, 2);
-  Place(cmdClear, 3, 2);
-  Place(cmdOk, 6, 2);
-  Place(cmdCancel, 7, 2);
+  PlaceButtons(0, 6, 2);
   Move(0, 0, 6600, 4800);
 }
 
@@ -57,26 +34,7 @@ void frmDefVar::Form_Load() {
     lstVariable.AddItem(NulToBlank(View(v.VarRefName)));
     lstDataType.AddItem(Num(v.VarRefType), lstVariable.NewIndex());
   }
-  cmdClear.SetEnabled(lstVariable.ListCount() > 0);
-}
-
-void frmDefVar::MarkChanged() {
-  ChangedFlag = true;
-  PrgHdr.CompiledFlag = 0;
-}
-
-void frmDefVar::EnableSelectionButtons() {
-  const bool selected = lstVariable.SelCount() > 0;
-  cmdModify.SetEnabled(selected);
-  cmdDelete.SetEnabled(selected);
-}
-
-void frmDefVar::txtName_Change() {
-  cmdAdd.SetEnabled(!txtName.Text().empty());
-}
-
-void frmDefVar::txtName_KeyPress(int& keyAscii) {
-  LegalInput(txtName, 2, keyAscii);
+  EnableClear();
 }
 
 void frmDefVar::optDataType_KeyPress(int /*Index*/, int& keyAscii) {
@@ -97,65 +55,42 @@ void frmDefVar::lstVariable_Click() {
 void frmDefVar::cmdAdd_Click() {
   const std::string& name = txtName.Text();
   if (lstVariable.ListCount() >= kMaxVariables) {
-    ui::platform().MsgBox("Maximum number of variables are " + Str(int64_t{kMaxVariables}),
-                          ui::vbOKOnly | ui::vbExclamation, "Variable add error");
+    ShowListFull(kMaxVariables);
+  } else if (Listed(name)) {
+    ShowExists(name);
   } else {
-    bool exists = false;
-    // The item one past the end reads as empty, as the list control answers it.
-    for (int i = 0; i <= lstVariable.ListCount() && !exists; ++i) {
-      exists = RTrim(lstVariable.List(i)) == name;
+    lstVariable.AddItem(name);
+    const int at = lstVariable.NewIndex();
+    for (int i = 0; i < 3; ++i) {
+      if (optDataType[i].Value()) lstDataType.AddItem(Num(i), at);
     }
-    if (exists) {
-      ui::platform().MsgBox("Variable " + name + " exist already.",
-                            ui::vbOKOnly | ui::vbExclamation, "Variable add error");
-    } else {
-      lstVariable.AddItem(name);
-      const int at = lstVariable.NewIndex();
-      for (int i = 0; i < 3; ++i) {
-        if (optDataType[i].Value()) lstDataType.AddItem(Num(i), at);
-      }
-      txtName.SetText("");
-      cmdClear.SetEnabled(lstVariable.ListCount() > 0);
-      lstVariable.SetListIndex(at);
-    }
+    txtName.SetText("");
+    EnableClear();
+    lstVariable.SetListIndex(at);
   }
   txtName.SetFocus();
   MarkChanged();
 }
 
 void frmDefVar::cmdModify_Click() {
-  txtName.SetText(RTrim(lstVariable.List(lstVariable.ListIndex())));
-  cmdDelete_Click();
-  txtName.SetFocus();
-  cmdModify.SetEnabled(lstVariable.SelCount() > 0);
+  TakeSelectedIntoBox();
   MarkChanged();
 }
 
 void frmDefVar::cmdDelete_Click() {
-  const int index = lstVariable.ListIndex();
-  if (index >= 0 && lstVariable.Selected(index)) {
-    lstVariable.RemoveItem(index);
-    lstDataType.RemoveItem(index);
-  } else {
-    ui::platform().Beep();
-  }
+  RemoveSelected();
   EnableSelectionButtons();
-  cmdClear.SetEnabled(lstVariable.ListCount() > 0);
+  EnableClear();
   MarkChanged();
 }
 
 void frmDefVar::cmdClear_Click() {
-  if (ui::platform().MsgBox("Clear all the variables ?", ui::vbOKCancel | ui::vbExclamation,
-                            "Confirm clear") == ui::vbOK) {
-    lstVariable.Clear();
-    lstDataType.Clear();
+  if (ConfirmClear()) {
     cmdModify.SetEnabled(false);
     cmdDelete.SetEnabled(false);
     cmdClear.SetEnabled(false);
   }
-  txtName.SetText("");
-  txtName.SetFocus();
-  MarkChanged();
+  AfterClear();
 }
 
 void frmDefVar::cmdOk_Click() {
@@ -169,10 +104,6 @@ void frmDefVar::cmdOk_Click() {
     PrgHdr.Variable[i].VarRefType = static_cast<int32_t>(Val(lstDataType.List(i)));
     SetField(PrgHdr.Variable[i].VarRefName, RTrim(lstVariable.List(i)));
   }
-  Unload();
-}
-
-void frmDefVar::cmdCancel_Click() {
   Unload();
 }
 

@@ -2,13 +2,13 @@
 // aligned lists (the visible sorted names, the hidden types), written back on OK.
 #pragma once
 
+#include "dialogs/declaration_form.h"
 #include "ui/model/controls.h"
-#include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 
 namespace kq {
 
-class frmDefVar : public ui::Form {
+class frmDefVar : public DeclarationForm {
  public:
   frmDefVar();
 
@@ -31,19 +31,13 @@ class frmDefVar : public ui::Form {
   void Form_Load() override;
 
  private:
-  void txtName_Change();
-  void txtName_KeyPress(int& keyAscii);
   void optDataType_KeyPress(int Index, int& keyAscii);
-  void lstVariable_Click();
-  void cmdAdd_Click();
-  void cmdModify_Click();
-  void cmdDelete_Click();
-  void cmdClear_Click();
-  void cmdOk_Click();
-  void cmdCancel_Click();
-  // Modify and Delete follow the selection, Clear the list's content.
-  void EnableSelectionButtons();
-  void MarkChanged();
+  void lstVariable_Click() override;
+  void cmdAdd_Click() override;
+  void cmdModify_Click() override;
+  void cmdDelete_Click() override;
+  void cmdClear_Click() override;
+  void cmdOk_Click() override;
 };
 
 }  // namespace kq
