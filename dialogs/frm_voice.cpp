@@ -24,6 +24,7 @@ std::string Joined(std::string folder, const std::string& name) {
 }  // namespace
 
 frmVoice::frmVoice() : FuncDialog("frmVoice", "Voice", 18) {
+  MMControl1.SetVisible(false);
   cboPathVar.SetStyle(ui::ComboBox::Style::DropdownList);
   cboPathVar.SetWidth(2400);
   cboPathVar.OnKeyPress = [](int& k) { SwallowEnter(k); };
@@ -184,8 +185,18 @@ void frmVoice::cmdPlay_Click() {
   const int result = speech::Convert(Joined(filVoice.Path(), name).c_str(),
                                      static_cast<int16_t>(format), 8, wave.c_str(), 4, 8);
   ConvertMessage(result);
-  // Playing the converted file as "WaveAudio" with the commands "Open" and "Play", and the
-  // "Close" when the dialog is unloaded, wait for the multimedia control MMControl1.
+  MMControl1.SetNotify(false);
+  MMControl1.SetWait(true);
+  MMControl1.SetShareable(false);
+  MMControl1.SetDeviceType("WaveAudio");
+  MMControl1.SetFileName(wave);
+  MMControl1.SetCommand("Open");
+  MMControl1.SetCommand("Play");
+}
+
+void frmVoice::Form_Unload() {
+  MMControl1.SetCommand("Close");
+  FuncDialog::Form_Unload();
 }
 
 bool frmVoice::CheckBeforeLabel() {

@@ -4,6 +4,7 @@
 
 #include "dialogs/func_dialog.h"
 #include "ui/model/file_controls.h"
+#include "ui/model/media_control.h"
 
 namespace kq {
 
@@ -28,8 +29,11 @@ class frmVoice : public FuncDialog {
   ui::Label lblHangup{*this, "lblHangup", "On hangup goto:"};
   ui::Label lblError{*this, "lblError", "On error goto:"};
   ui::ComboBox cboLabel[2] = {{*this, "cboLabel", 0}, {*this, "cboLabel", 1}};
+  // The hidden player of cmdPlay.
+  ui::MMControl MMControl1{*this, "MMControl1"};
 
  protected:
+  void Form_Unload() override;
   void LoadFields(const RecordSet& rec, bool modify) override;
   bool CheckBeforeLabel() override;
   bool Accept(std::string& parameters) override;

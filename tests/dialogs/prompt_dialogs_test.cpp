@@ -478,11 +478,30 @@ TEST_F(VoiceFolderTest, VoicePlayConvertsTheSelectedFileToTheTemporaryWave) {
     EXPECT_EQ(p.EventsOf("msgbox")[1].fields["title"].Str(), "Play Function");
     d.filVoice.SetPattern("s.vox");
     d.filVoice.UserSelect(0);
-    d.filVoice.RaiseDblClick();  // a double click plays, it does not add
+    EXPECT_EQ(p.CountOf("media"), 0);  // a refused play leaves the player alone
+    d.filVoice.RaiseDblClick();        // a double click plays, it does not add
     EXPECT_EQ(d.lstSelectedVoice.ListCount(), 0);
+    EXPECT_EQ(d.MMControl1.DeviceType(), "WaveAudio");
+    EXPECT_EQ(d.MMControl1.Error(), 0);
   });
   EXPECT_EQ(p.CountOf("msgbox"), 2);
   EXPECT_GT(fs::file_size(root / "tmp" / "voice.wav"), 44u);
+  // The converted file is opened and played; unloading the dialog closes it.
+  const std::string wave = (root / "tmp" / "voice.wav").string();
+  std::vector<std::string> media;
+  for (const auto& e : p.EventsOf("media")) {
+    media.push_back(e.fields["command"].Str() + " " + e.fields["file"].Str());
+  }
+  EXPECT_EQ(media, (std::vector<std::string>{"Open " + wave, "Play " + wave, "Close " + wave}));
+}
+
+TEST_F(VoiceFolderTest, VoiceUnloadClosesThePlayerEvenWhenNothingPlayed) {
+  Run<kq::frmVoice>(18, [&](kq::frmVoice& d) {
+    EXPECT_FALSE(d.MMControl1.Visible());
+    EXPECT_EQ(p.CountOf("media"), 0);
+  });
+  ASSERT_EQ(p.CountOf("media"), 1);
+  EXPECT_EQ(p.EventsOf("media")[0].fields["command"].Str(), "Close");
 }
 
 // The disk of this machine, with a drive whose current directory is gone.
