@@ -1,11 +1,8 @@
 // Fuzz target of the KQX reader: every input goes through open and through insert on the
 // headless platform. A "Program Error" is a legal end of a command here; a crash, a
-// sanitizer report or a hang is a fault. Built with libFuzzer under clang; otherwise (or
-// with KQ_FUZZ_REPLAY_MAIN) an ordinary program that replays the files it is given.
+// sanitizer report or a hang is a fault. Built with libFuzzer under clang; with replay_main.cpp
+// an ordinary program that replays the files it is given.
 #include <cstdint>
-#include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -69,20 +66,3 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   }
   return 0;
 }
-
-#if defined(KQ_FUZZ_REPLAY_MAIN)
-int main(int argc, char** argv) {
-  for (int i = 1; i < argc; ++i) {
-    std::ifstream in(argv[i], std::ios::binary);
-    if (!in) {
-      std::fprintf(stderr, "cannot read %s\n", argv[i]);
-      return 1;
-    }
-    const std::vector<uint8_t> bytes{std::istreambuf_iterator<char>(in),
-                                     std::istreambuf_iterator<char>()};
-    LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
-    std::printf("%s: ok\n", argv[i]);
-  }
-  return 0;
-}
-#endif

@@ -49,27 +49,36 @@ std::vector<int16_t> PadToBlock(int format, std::span<const int16_t> samples) {
   return padded;
 }
 
+// The coder of one ADPCM format: OKI (also for 24K, which runs at 6000 Hz) or G.726 at
+// 24 or 32 kbit/s, first codeword in the least significant bits.
+struct AdpcmState {
+  explicit AdpcmState(int format) : oki(format == kOki32 || format == kOki24) {
+    if (oki) {
+      okiCoder.reset(oki_adpcm_init(nullptr, 32000));
+    } else {
+      g726.reset(g726_init(nullptr, format == kRhetorex24 ? 24000 : 32000, G726_ENCODING_LINEAR,
+                           G726_PACKING_RIGHT));
+    }
+  }
+  bool oki;
+  Oki okiCoder;
+  G726 g726;
+};
+
 // spandsp counts in int: longer inputs go through in pieces that keep the blocks whole.
 constexpr size_t kPiece = size_t{1} << 24;
 
 std::vector<uint8_t> EncodeAdpcm(int format, std::span<const int16_t> samples) {
   const std::vector<int16_t> padded = PadToBlock(format, samples);
   std::vector<uint8_t> out(padded.size() * static_cast<size_t>(CodeBits(format)) / 8);
-  const bool oki = format == kOki32 || format == kOki24;
-  G726 g726;
-  Oki okiState;
-  if (oki) {
-    okiState.reset(oki_adpcm_init(nullptr, 32000));
-  } else {
-    g726.reset(g726_init(nullptr, format == kRhetorex24 ? 24000 : 32000, G726_ENCODING_LINEAR,
-                         G726_PACKING_RIGHT));
-  }
+  const AdpcmState state(format);
   size_t written = 0;
   for (size_t at = 0; at < padded.size(); at += kPiece) {
     const int len = static_cast<int>(std::min(kPiece, padded.size() - at));
     written += static_cast<size_t>(
-        oki ? oki_adpcm_encode(okiState.get(), out.data() + written, padded.data() + at, len)
-            : g726_encode(g726.get(), out.data() + written, padded.data() + at, len));
+        state.oki
+            ? oki_adpcm_encode(state.okiCoder.get(), out.data() + written, padded.data() + at, len)
+            : g726_encode(state.g726.get(), out.data() + written, padded.data() + at, len));
   }
   out.resize(written);
   return out;
@@ -77,21 +86,14 @@ std::vector<uint8_t> EncodeAdpcm(int format, std::span<const int16_t> samples) {
 
 std::vector<int16_t> DecodeAdpcm(int format, std::span<const uint8_t> bytes) {
   std::vector<int16_t> out(bytes.size() * 8 / static_cast<size_t>(CodeBits(format)) + 8);
-  const bool oki = format == kOki32 || format == kOki24;
-  G726 g726;
-  Oki okiState;
-  if (oki) {
-    okiState.reset(oki_adpcm_init(nullptr, 32000));
-  } else {
-    g726.reset(g726_init(nullptr, format == kRhetorex24 ? 24000 : 32000, G726_ENCODING_LINEAR,
-                         G726_PACKING_RIGHT));
-  }
+  const AdpcmState state(format);
   size_t made = 0;
   for (size_t at = 0; at < bytes.size(); at += kPiece) {
     const int len = static_cast<int>(std::min(kPiece, bytes.size() - at));
     made += static_cast<size_t>(
-        oki ? oki_adpcm_decode(okiState.get(), out.data() + made, bytes.data() + at, len)
-            : g726_decode(g726.get(), out.data() + made, bytes.data() + at, len));
+        state.oki
+            ? oki_adpcm_decode(state.okiCoder.get(), out.data() + made, bytes.data() + at, len)
+            : g726_decode(state.g726.get(), out.data() + made, bytes.data() + at, len));
   }
   out.resize(made);
   return out;
