@@ -1,4 +1,4 @@
-#include "speech/resample.h"
+#include "speech/codec/resample.h"
 
 #include <soxr.h>
 

@@ -38,8 +38,4 @@ std::string_view ConvertCaption(int format);
 // gives `voxFormat` (the format chosen in the menu), an unknown one kIllegalSpeechFormat.
 int SpeechFormatOfFile(std::string_view fileName, int voxFormat);
 
-// The extension of the application's speech format (SpeechAudioFormat). A format without
-// one is the program error "Illegal speech format = {n} in GetSpeechFileExt.".
-std::string GetSpeechFileExt();
-
 }  // namespace kq::speech

@@ -1,9 +1,9 @@
-#include "speech/wave_file.h"
+#include "speech/codec/wave_file.h"
 
 #include <cstring>
 #include <string_view>
 
-#include "speech/convert_codes.h"
+#include "speech/codec/convert_codes.h"
 
 namespace kq::speech {
 

@@ -1,16 +1,13 @@
-#include "speech/convert.h"
+#include "speech/codec/convert.h"
 
 #include <cctype>
 #include <cstdio>
 #include <vector>
 
-#include "document/state.h"
-#include "document/text.h"
-#include "speech/codecs.h"
-#include "speech/convert_codes.h"
-#include "speech/resample.h"
-#include "speech/wave_file.h"
-#include "ui/platform/platform.h"
+#include "speech/codec/codecs.h"
+#include "speech/codec/convert_codes.h"
+#include "speech/codec/resample.h"
+#include "speech/codec/wave_file.h"
 
 namespace kq::speech {
 
@@ -131,15 +128,6 @@ int SpeechFormatOfFile(std::string_view fileName, int voxFormat) {
     if (e.ext == ext) return e.format;
   }
   return kIllegalSpeechFormat;
-}
-
-std::string GetSpeechFileExt() {
-  const std::string_view ext = SpeechFileExt(SpeechAudioFormat);
-  if (ext.empty()) {
-    ui::ProgramError("Illegal speech format =" + Str(int64_t{SpeechAudioFormat}) +
-                     " in GetSpeechFileExt.");
-  }
-  return std::string(ext);
 }
 
 }  // namespace kq::speech

@@ -1,4 +1,4 @@
-#include "speech/codecs.h"
+#include "speech/codec/codecs.h"
 
 #include <spandsp/telephony.h>
 // telephony.h first
