@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -31,5 +32,44 @@ std::vector<uint8_t> Encode(int format, std::span<const int16_t> samples);
 
 // Decodes the bytes of a headerless format into samples at FormatRate(format).
 std::vector<int16_t> Decode(int format, std::span<const uint8_t> bytes);
+
+// The number of samples that `bytes` bytes of a headerless format decode to.
+uint64_t DecodedLength(int format, uint64_t bytes);
+
+// Encode and Decode a block at a time: the blocks together give the very bytes or samples
+// that the whole-signal calls give, with memory that does not grow with the length.
+class StreamEncoder {
+ public:
+  explicit StreamEncoder(int format);
+  ~StreamEncoder();
+  StreamEncoder(const StreamEncoder&) = delete;
+  StreamEncoder& operator=(const StreamEncoder&) = delete;
+  // Appends the bytes of the next samples to `out`; a part block waits for the next call.
+  void Encode(std::span<const int16_t> samples, std::vector<uint8_t>& out);
+  // After the last samples: the part block completed with silence.
+  void Finish(std::vector<uint8_t>& out);
+
+ private:
+  struct Coder;
+  int format_;
+  std::unique_ptr<Coder> coder_;
+  std::vector<int16_t> pending_;  // fewer samples than a block
+};
+
+class StreamDecoder {
+ public:
+  explicit StreamDecoder(int format);
+  ~StreamDecoder();
+  StreamDecoder(const StreamDecoder&) = delete;
+  StreamDecoder& operator=(const StreamDecoder&) = delete;
+  // Appends the samples of the next bytes to `out`.
+  void Decode(std::span<const uint8_t> bytes, std::vector<int16_t>& out);
+
+ private:
+  struct Coder;
+  int format_;
+  std::unique_ptr<Coder> coder_;
+  int pendingByte_ = -1;  // the first byte of a linear sample split between blocks
+};
 
 }  // namespace kq::speech

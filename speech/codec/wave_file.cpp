@@ -44,69 +44,59 @@ int CheckFormat(const WaveFormat& f) {
   return kConvertOk;
 }
 
-void Samples(std::span<const uint8_t> data, int bits, std::vector<int16_t>& samples) {
-  if (bits == 8) {
-    samples.resize(data.size());
-    for (size_t i = 0; i < data.size(); ++i) {
-      samples[i] = static_cast<int16_t>((data[i] - 128) * 256);
-    }
-    return;
-  }
-  samples.resize(data.size() / 2);  // a last odd byte is no sample
-  for (size_t i = 0; i < samples.size(); ++i) {
-    samples[i] = static_cast<int16_t>(Get16(data, 2 * i));
-  }
-}
-
 }  // namespace
 
 bool IsWaveRate(uint32_t rate) {
   return rate == 8000 || rate == 11025 || rate == 22050 || rate == 44100;
 }
 
-int ParseWave(std::span<const uint8_t> file, Pcm& pcm) {
-  if (file.size() < 12 || !TagIs(file, 0, "RIFF") || !TagIs(file, 8, "WAVE")) {
-    return kWaveNoHeader;
-  }
-  const size_t size = file.size();
+int LocateWaveData(uint64_t size, const WaveReadAt& read, WaveData& data) {
+  uint8_t head[12];
+  if (size < 12) return kWaveNoHeader;
+  if (!read(0, head, 12)) return kInputReadError;
+  if (!TagIs(head, 0, "RIFF") || !TagIs(head, 8, "WAVE")) return kWaveNoHeader;
   WaveFormat format;
   bool haveFormat = false;
   bool haveFact = false;
   uint32_t factSamples = 0;
-  size_t at = 12;
+  uint64_t at = 12;
+  uint8_t chunk[16];
   while (at + 4 <= size) {
-    const bool isData = TagIs(file, at, "data");
+    if (!read(at, chunk, 4)) return kInputReadError;
+    const bool isData = TagIs(chunk, 0, "data");
     if (at + 8 > size) {
       if (isData) return haveFormat ? kWaveNoDataSize : kWaveNoHeader;
       break;  // a few stray bytes at the end
     }
-    const size_t length = Get32(file, at + 4);
-    const size_t body = at + 8;
+    if (!read(at + 4, chunk + 4, 4)) return kInputReadError;
+    const uint64_t length = Get32(chunk, 4);
+    const uint64_t body = at + 8;
     const bool complete = length <= size - body;
     if (isData) {
       if (!haveFormat) return kWaveNoHeader;
       if (length == 0) return kWaveNoDataSize;
       if (!complete) return kWaveDataUnreadable;
-      const size_t bytesPerSample = format.bitsPerSample / 8;
+      const uint64_t bytesPerSample = format.bitsPerSample / 8;
       if (haveFact && factSamples != length / bytesPerSample) return kWaveFactMismatch;
-      Samples(file.subspan(body, length), format.bitsPerSample, pcm.samples);
-      pcm.rate = static_cast<int>(format.samplesPerSec);
+      data = {format, body, length};
       return kConvertOk;
     }
-    if (TagIs(file, at, "fmt ")) {
+    if (TagIs(chunk, 0, "fmt ")) {
       if (length < 16 || !complete) return kWaveNoHeader;
-      format.formatTag = Get16(file, body);
-      format.channels = Get16(file, body + 2);
-      format.samplesPerSec = Get32(file, body + 4);
-      format.avgBytesPerSec = Get32(file, body + 8);
-      format.blockAlign = Get16(file, body + 12);
-      format.bitsPerSample = Get16(file, body + 14);
+      if (!read(body, chunk, 16)) return kInputReadError;
+      format.formatTag = Get16(chunk, 0);
+      format.channels = Get16(chunk, 2);
+      format.samplesPerSec = Get32(chunk, 4);
+      format.avgBytesPerSec = Get32(chunk, 8);
+      format.blockAlign = Get16(chunk, 12);
+      format.bitsPerSample = Get16(chunk, 14);
       if (const int fault = CheckFormat(format); fault != kConvertOk) return fault;
       haveFormat = true;
-    } else if (TagIs(file, at, "fact")) {
+    } else if (TagIs(chunk, 0, "fact")) {
       if (length < 4 || !complete) return kWaveFactMismatch;
+      if (!read(body, chunk, 4)) return kInputReadError;
       haveFact = true;
-      factSamples = Get32(file, body);
+      factSamples = Get32(chunk, 0);
     } else if (!complete) {
       return kWaveDataOffset;
     }
@@ -115,24 +105,57 @@ int ParseWave(std::span<const uint8_t> file, Pcm& pcm) {
   return haveFormat ? kWaveNoData : kWaveNoHeader;
 }
 
-std::vector<uint8_t> WaveImage(const Pcm& pcm) {
-  const auto dataBytes = static_cast<uint32_t>(pcm.samples.size() * 2);
-  const auto rate = static_cast<uint32_t>(pcm.rate);
+void AppendWaveSamples(std::span<const uint8_t> data, int bits, std::vector<int16_t>& samples) {
+  const size_t base = samples.size();
+  if (bits == 8) {
+    samples.resize(base + data.size());
+    for (size_t i = 0; i < data.size(); ++i) {
+      samples[base + i] = static_cast<int16_t>((data[i] - 128) * 256);
+    }
+    return;
+  }
+  const size_t n = data.size() / 2;  // a last odd byte is no sample
+  samples.resize(base + n);
+  for (size_t i = 0; i < n; ++i) samples[base + i] = static_cast<int16_t>(Get16(data, 2 * i));
+}
+
+int ParseWave(std::span<const uint8_t> file, Pcm& pcm) {
+  WaveData data;
+  const auto read = [file](uint64_t at, uint8_t* buffer, size_t n) {
+    std::memcpy(buffer, file.data() + at, n);  // the walk stays inside the size it is given
+    return true;
+  };
+  if (const int code = LocateWaveData(file.size(), read, data); code != kConvertOk) return code;
+  pcm.samples.clear();
+  AppendWaveSamples(file.subspan(data.offset, data.length), data.format.bitsPerSample, pcm.samples);
+  pcm.rate = static_cast<int>(data.format.samplesPerSec);
+  return kConvertOk;
+}
+
+std::vector<uint8_t> WaveHeader(uint64_t samples, int rate) {
+  const auto dataBytes = static_cast<uint32_t>(samples * 2);
+  const auto r = static_cast<uint32_t>(rate);
   std::vector<uint8_t> out;
-  out.reserve(44 + dataBytes);
+  out.reserve(44);
   PutTag(out, "RIFF");
   Put32(out, 36 + dataBytes);
   PutTag(out, "WAVE");
   PutTag(out, "fmt ");
   Put32(out, 16);
-  Put16(out, 1);         // PCM
-  Put16(out, 1);         // mono
-  Put32(out, rate);      // samples a second
-  Put32(out, rate * 2);  // bytes a second
-  Put16(out, 2);         // block alignment
-  Put16(out, 16);        // bits a sample
+  Put16(out, 1);      // PCM
+  Put16(out, 1);      // mono
+  Put32(out, r);      // samples a second
+  Put32(out, r * 2);  // bytes a second
+  Put16(out, 2);      // block alignment
+  Put16(out, 16);     // bits a sample
   PutTag(out, "data");
   Put32(out, dataBytes);
+  return out;
+}
+
+std::vector<uint8_t> WaveImage(const Pcm& pcm) {
+  std::vector<uint8_t> out = WaveHeader(pcm.samples.size(), pcm.rate);
+  out.reserve(44 + pcm.samples.size() * 2);
   for (const int16_t s : pcm.samples) Put16(out, static_cast<uint16_t>(s));
   return out;
 }
