@@ -10,7 +10,7 @@
 #include "cli/commands.h"
 #include "dialogs/services.h"
 #include "document/state.h"
-#include "speech/convert.h"
+#include "speech/codec/convert.h"
 
 namespace kqx {
 
