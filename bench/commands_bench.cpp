@@ -9,6 +9,7 @@
 
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/functions.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "editor/compile.h"
@@ -66,30 +67,31 @@ void BuildProgram(ui::ListBox& list, bool failOnLastLine) {
   lines.reserve(kLines);
   for (int line = 0; line < kLines; ++line) {
     const int target = (line * 7919) % kLines / 3 * 3;  // a labelled line
-    const int f = line % 5 == 0   ? 3
-                  : line % 5 == 1 ? 7
-                  : line % 5 == 2 ? 9
-                  : line % 5 == 3 ? 10
-                                  : 0;
+    const Fn fn = line % 5 == 0   ? Fn::Condition
+                  : line % 5 == 1 ? Fn::GetKeys
+                  : line % 5 == 2 ? Fn::Gosub
+                  : line % 5 == 3 ? Fn::Goto
+                                  : Fn::Assign;
+    const int f = ToInt(fn);
     RecordSet& w = WorkRecord;
     std::memcpy(w.Image(f), InitRecord.Image(f), static_cast<size_t>(RecordLength[f]));
-    switch (f) {
-      case 3:
+    switch (fn) {
+      case Fn::Condition:
         SetVar(w.Condition.Left, kVarLong, "Var0");
         SetVar(w.Condition.Right, kConstLong, "5");
         SetField(w.Condition.ThenLabel, LabelOf(target));
         SetField(w.Condition.ElseLabel, LabelOf((target + 3) % kLines / 3 * 3));
         break;
-      case 7:
+      case Fn::GetKeys:
         SetVar(w.GetKeys.Target, kVarString, "Var2");
         SetLabel(w.GetKeys.HangupLabel, LabelOf(target));
         SetLabel(w.GetKeys.TimeoutLabel, LabelOf(target));
         break;
-      case 9:
+      case Fn::Gosub:
         SetLabel(w.Gosub.Target, LabelOf(target));
         SetLabel(w.Gosub.ErrorLabel, LabelOf(target));
         break;
-      case 10:
+      case Fn::Goto:
         SetLabel(w.Goto.Target, LabelOf(target));
         break;
       default:

@@ -2,6 +2,7 @@
 
 #include "dialogs/services.h"
 #include "document/catalogue.h"
+#include "document/functions.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "ui/platform/platform.h"
@@ -10,7 +11,7 @@ namespace kq {
 
 bool PickerOffers(int funcNo) {
   if (FieldEmpty(View(FuncNames[funcNo]))) return false;
-  return ShowAllFunctions || (funcNo != 54 && funcNo != 55);
+  return ShowAllFunctions || (funcNo != ToInt(Fn::CTBusConnect) && funcNo != ToInt(Fn::Prototype));
 }
 
 FuncListForm::FuncListForm(std::string name, std::string caption, int columns, int listWidth,

@@ -53,6 +53,7 @@
 #include "dialogs/frm_wait_for_call.h"
 #include "dialogs/frm_wait_for_key.h"
 #include "dialogs/func_dialog.h"
+#include "document/functions.h"
 
 namespace kq {
 
@@ -67,110 +68,110 @@ void Show() {
 using ShowFn = void (*)();
 
 ShowFn DialogOf(int funcNo) {
-  switch (funcNo) {
-    case 0:
+  switch (ToFn(funcNo)) {
+    case Fn::Assign:
       return &Show<frmAssign>;
-    case 1:
+    case Fn::AssignPath:
       return &Show<frmAssignPa>;
-    case 2:
+    case Fn::Calculate:
       return &Show<frmCalculate>;
-    case 3:
+    case Fn::Condition:
       return &Show<frmCondition>;
-    case 4:
+    case Fn::Delay:
       return &Show<frmDelay>;
-    case 5:
+    case Fn::CallOut:
       return &Show<frmCallOut>;
-    case 6:
+    case Fn::GetDate:
       return &Show<frmGetDate>;
-    case 7:
+    case Fn::GetKeys:
       return &Show<frmGetKey>;
-    case 8:
+    case Fn::GetTime:
       return &Show<frmGetTime>;
-    case 9:
+    case Fn::Gosub:
       return &Show<frmGosub>;
-    case 10:
+    case Fn::Goto:
       return &Show<frmGoto>;
-    case 11:
+    case Fn::Random:
       return &Show<frmRandom>;
-    case 12:
+    case Fn::RecordSound:
       return &Show<frmRecordSound>;
-    case 13:
+    case Fn::Remark:
       return &Show<frmRemark>;
-    case 14:
+    case Fn::Return:
       return &Show<frmReturn>;
-    case 15:
+    case Fn::RSwitch:
       return &Show<frmRSwitch>;
-    case 16:
+    case Fn::SayNumber:
       return &Show<frmSayNo>;
-    case 17:
+    case Fn::VariableExport:
       return &Show<frmVarExp>;
-    case 18:
+    case Fn::Voice:
       return &Show<frmVoice>;
-    case 19:
+    case Fn::WaitForCall:
       return &Show<frmWaitForCall>;
-    case 20:
+    case Fn::WaitForKey:
       return &Show<frmWaitForKey>;
-    case 21:
+    case Fn::SayFile:
       return &Show<frmSayFile>;
-    case 24:
+    case Fn::ConnectTable:
       return &Show<frmConnectTbl>;
-    case 25:
+    case Fn::DisconnectTable:
       return &Show<frmDisconnectTbl>;
-    case 26:
+    case Fn::AddRecord:
       return &Show<frmAddRec>;
-    case 27:
+    case Fn::DeleteRecord:
       return &Show<frmDeleteRec>;
-    case 28:
+    case Fn::GetFirstRecord:
       return &Show<frmGetFirstRec>;
-    case 29:
+    case Fn::SelectRecords:
       return &Show<frmSelectRec>;
-    case 30:
+    case Fn::InsertRecord:
       return &Show<frmInsertRec>;
-    case 31:
+    case Fn::GetLastRecord:
       return &Show<frmGetLastRec>;
-    case 32:
+    case Fn::GetNextRecord:
       return &Show<frmGetNextRec>;
-    case 33:
+    case Fn::GetPrevRecord:
       return &Show<frmGetPrevRec>;
-    case 34:
+    case Fn::UpdateRecord:
       return &Show<frmUpdateRec>;
-    case 36:
+    case Fn::GetDayOfWeek:
       return &Show<frmGetDayOfWeek>;
-    case 37:
+    case Fn::DialNumber:
       return &Show<frmDialNo>;
-    case 38:
+    case Fn::GetRecordNo:
       return &Show<frmGetRecNo>;
-    case 39:
+    case Fn::GetNoOfRec:
       return &Show<frmGetNoRec>;
-    case 40:
+    case Fn::EmptyTable:
       return &Show<frmEmptyTbl>;
-    case 41:
+    case Fn::GetChannelNo:
       return &Show<frmGetChNo>;
-    case 43:
+    case Fn::OnOffHook:
       return &Show<frmOnOffHook>;
-    case 44:
+    case Fn::TrimString:
       return &Show<frmTrimStr>;
-    case 45:
+    case Fn::LenString:
       return &Show<frmLenStr>;
-    case 46:
+    case Fn::RightString:
       return &Show<frmRightStr>;
-    case 47:
+    case Fn::LeftString:
       return &Show<frmLeftStr>;
-    case 48:
+    case Fn::InString:
       return &Show<frmInStr>;
-    case 49:
+    case Fn::CheckPath:
       return &Show<frmCheckPath>;
-    case 50:
+    case Fn::CheckFile:
       return &Show<frmCheckFile>;
-    case 51:
+    case Fn::DeleteFile:
       return &Show<frmDeleteFile>;
-    case 52:
+    case Fn::SoundFileCount:
       return &Show<frmSoundFileCounter>;
-    case 53:
+    case Fn::Run:
       return &Show<frmRun>;
-    case 54:
+    case Fn::CTBusConnect:
       return &Show<frmCTBusCon>;
-    case 55:
+    case Fn::Prototype:
       return &Show<frmPrototype>;
     default:
       return nullptr;

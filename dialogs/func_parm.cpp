@@ -4,6 +4,7 @@
 #include "dialogs/func_dialog.h"
 #include "dialogs/services.h"
 #include "document/catalogue.h"
+#include "document/function_table.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "ui/platform/platform.h"
@@ -24,18 +25,6 @@ bool HasVariableOf(int32_t type) {
   return false;
 }
 
-// What each function needs declared before its dialog opens, by function number.
-constexpr unsigned kNeedsVar = 1, kNeedsPath = 2, kNeedsTable = 4;
-constexpr unsigned V = kNeedsVar, P = kNeedsPath, T = kNeedsTable;
-constexpr unsigned kNeeds[kFuncCount] = {
-    V,     P,     V,     V,     0, V,         V,     V,     V,     0,      // 0 to 9
-    0,     V,     V | P, 0,     0, 0,         V | P, V | P, P,     0,      // 10 to 19
-    0,     V | P, 0,     0,     T, T,         T,     T,     T,     T,      // 20 to 29
-    T,     T,     T,     T,     T, 0,         V,     V,     T | V, T | V,  // 30 to 39
-    T,     V,     0,     0,     V, V,         V,     V,     V,     P,      // 40 to 49
-    V | P, V | P, V,     V | P, V, T | V | P,                              // 50 to 55
-};
-
 bool PathTypeDefined(int32_t letter) {
   return !FieldEmpty(View(PrgHdr.Path[0][letter - kPathExport].PathName));
 }
@@ -43,54 +32,31 @@ bool PathTypeDefined(int32_t letter) {
 }  // namespace
 
 bool DefinedVar(bool showMessage, int funcNo) {
+  const FunctionInfo* fn = FunctionOf(funcNo);
   bool found = false;
   const char* text = nullptr;
-  switch (funcNo) {
-    case 0:
-    case 2:
-    case 3:
-    case 7:
-    case 16:
-    case 17:
+  switch (fn == nullptr ? VarNeed::None : fn->varNeed) {
+    case VarNeed::Any:
       found = HasVariableOf(kVarLong) || HasVariableOf(kVarDouble) || HasVariableOf(kVarString);
       text = "Define a long, double or string variable before using this function.";
       break;
-    case 5:
-    case 6:
-    case 8:
-    case 19:
-    case 36:
-    case 37:
+    case VarNeed::LongOrString:
       found = HasVariableOf(kVarLong) || HasVariableOf(kVarString);
       text = "Define a long or string variable before using this function.";
       break;
-    case 11:
-    case 38:
-    case 39:
-    case 41:
-    case 52:
-    case 54:
-    case 55:
+    case VarNeed::Long:
       found = HasVariableOf(kVarLong);
       text = "Define a long variable before using this function.";
       break;
-    case 12:
-    case 21:
-    case 44:
-    case 50:
-    case 51:
-    case 53:
+    case VarNeed::String:
       found = HasVariableOf(kVarString);
       text = "Define a string variable before using this function.";
       break;
-    case 45:
-    case 46:
-    case 47:
-    case 48:
+    case VarNeed::LongAndString:
       found = HasVariableOf(kVarLong) && HasVariableOf(kVarString);
       text = "Define a long and string variable before using this function.";
       break;
-    default:
+    case VarNeed::None:
       IllegalFunction(funcNo, "DefinedVar");
   }
   if (!found && showMessage) {
@@ -100,13 +66,11 @@ bool DefinedVar(bool showMessage, int funcNo) {
 }
 
 bool DefinedPath(bool showMessage, int funcNo) {
+  const FunctionInfo* fn = FunctionOf(funcNo);
   bool found = false;
   const char* text = nullptr;
-  switch (funcNo) {
-    case 1:
-    case 49:
-    case 50:
-    case 55:
+  switch (fn == nullptr ? PathNeed::None : fn->pathNeed) {
+    case PathNeed::AnyType:
       found = PathTypeDefined(kPathExport) || PathTypeDefined(kPathMessage) ||
               PathTypeDefined(kPathNumber) || PathTypeDefined(kPathVoice) ||
               PathTypeDefined(kPathGeneral);
@@ -114,33 +78,32 @@ bool DefinedPath(bool showMessage, int funcNo) {
           "Define a export, message, number, voice or general path variable before using this "
           "function.";
       break;
-    case 51:
+    case PathNeed::AnyButGeneral:
       found = PathTypeDefined(kPathExport) || PathTypeDefined(kPathMessage) ||
               PathTypeDefined(kPathNumber) || PathTypeDefined(kPathVoice);
       text = "Define a export, message, number or voice path variable before using this function.";
       break;
-    case 12:
-    case 21:
+    case PathNeed::Message:
       found = PathTypeDefined(kPathMessage);
       text = "Define a message path variable before using this function.";
       break;
-    case 16:
+    case PathNeed::Number:
       found = PathTypeDefined(kPathNumber);
       text = "Define a number path variable before using this function.";
       break;
-    case 17:
+    case PathNeed::Export:
       found = PathTypeDefined(kPathExport);
       text = "Define a export path variable before using this function.";
       break;
-    case 18:
+    case PathNeed::Voice:
       found = PathTypeDefined(kPathVoice);
       text = "Define a voice path variable before using this function.";
       break;
-    case 53:
+    case PathNeed::General:
       found = PathTypeDefined(kPathGeneral);
       text = "Define a general path variable before using this function.";
       break;
-    default:
+    case PathNeed::None:
       IllegalFunction(funcNo, "DefinedPath");
   }
   if (!found && showMessage) {
@@ -162,7 +125,7 @@ void GetFuncParm(int funcNo) {
   if (!IsLiveFunction(funcNo)) IllegalFunction(funcNo, "GetFuncParm");
   // A refused function leaves the editor nothing to take, whatever an earlier dialog left.
   FuncOk = false;
-  const unsigned needs = kNeeds[funcNo];
+  const unsigned needs = FunctionOf(funcNo)->needs;
   bool ok = true;
   // Every check runs, in this order, so that each missing declaration is reported.
   if (needs & kNeedsTable) ok = DefinedDBTbl() && ok;

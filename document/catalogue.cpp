@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "document/function_table.h"
 #include "document/records.h"
 #include "document/text.h"
 #include "ui/platform/platform.h"
@@ -188,122 +189,10 @@ std::string StringRelationalOpr(int32_t op) {
 
 // ---- The byte image of each function's record in a RecordSet.
 
-namespace {
-template <typename T>
-uint8_t* Bytes(T& rec) {
-  return reinterpret_cast<uint8_t*>(&rec);
-}
-}  // namespace
-
 uint8_t* RecordSet::Image(int funcNo) {
-  switch (funcNo) {
-    case 0:
-      return Bytes(Assign);
-    case 1:
-      return Bytes(AssignPath);
-    case 2:
-      return Bytes(Calculate);
-    case 3:
-      return Bytes(Condition);
-    case 4:
-      return Bytes(Delay);
-    case 5:
-      return Bytes(CallOut);
-    case 6:
-      return Bytes(GetDate);
-    case 7:
-      return Bytes(GetKeys);
-    case 8:
-      return Bytes(GetTime);
-    case 9:
-      return Bytes(Gosub);
-    case 10:
-      return Bytes(Goto);
-    case 11:
-      return Bytes(Random);
-    case 12:
-      return Bytes(RecordSound);
-    case 13:
-      return Bytes(Remark);
-    case 14:
-      return Bytes(Return);
-    case 15:
-      return Bytes(RSwitch);
-    case 16:
-      return Bytes(SayNumber);
-    case 17:
-      return Bytes(VarExport);
-    case 18:
-      return Bytes(Voice);
-    case 19:
-      return Bytes(WaitForCall);
-    case 20:
-      return Bytes(WaitForKey);
-    case 21:
-      return Bytes(SayFile);
-    case 24:
-      return Bytes(ConnectTable);
-    case 25:
-      return Bytes(DisconnectTable);
-    case 26:
-      return Bytes(AddRecord);
-    case 27:
-      return Bytes(DeleteRecord);
-    case 28:
-      return Bytes(GetFirstRecord);
-    case 29:
-      return Bytes(SelectRecords);
-    case 30:
-      return Bytes(InsertRecord);
-    case 31:
-      return Bytes(GetLastRecord);
-    case 32:
-      return Bytes(GetNextRecord);
-    case 33:
-      return Bytes(GetPrevRecord);
-    case 34:
-      return Bytes(UpdateRecord);
-    case 36:
-      return Bytes(GetDayOfWeek);
-    case 37:
-      return Bytes(DialNumber);
-    case 38:
-      return Bytes(GetRecordNo);
-    case 39:
-      return Bytes(GetNoOfRec);
-    case 40:
-      return Bytes(EmptyTable);
-    case 41:
-      return Bytes(GetChannelNo);
-    case 43:
-      return Bytes(OnOffHook);
-    case 44:
-      return Bytes(TrimString);
-    case 45:
-      return Bytes(LenString);
-    case 46:
-      return Bytes(RightString);
-    case 47:
-      return Bytes(LeftString);
-    case 48:
-      return Bytes(InString);
-    case 49:
-      return Bytes(CheckPath);
-    case 50:
-      return Bytes(CheckFile);
-    case 51:
-      return Bytes(DeleteFile);
-    case 52:
-      return Bytes(SoundFileCount);
-    case 53:
-      return Bytes(Run);
-    case 54:
-      return Bytes(CTBusConnect);
-    case 55:
-      return Bytes(Prototype);
-    default:
-      return nullptr;
-  }
+  const FunctionInfo* f = FunctionOf(funcNo);
+  if (f == nullptr || !f->live()) return nullptr;
+  return reinterpret_cast<uint8_t*>(this) + f->at;
 }
 
 const uint8_t* RecordSet::Image(int funcNo) const {

@@ -17,12 +17,15 @@ KqxVersion VersionOf(const char (&version)[5]) {
   return KqxVersion::Unknown;
 }
 
+const OldRecordLayout* OldRecordOf(KqxVersion version, int funcNo) {
+  for (const OldRecordLayout& old : kOldRecords) {
+    if (old.version == version && ToInt(old.fn) == funcNo) return &old;
+  }
+  return nullptr;
+}
+
 int32_t FileRecordLength(KqxVersion version, int funcNo) {
-  const bool old = version == KqxVersion::V308 || version == KqxVersion::V309;
-  if (old && funcNo == 35) return 152;  // the discontinued WHERE Clause
-  if (old && (funcNo == 27 || funcNo == 34)) return 56;
-  if (version == KqxVersion::V308 && funcNo == 29) return 56;
-  if (version == KqxVersion::V308 && funcNo == 5) return 140;
+  if (const OldRecordLayout* old = OldRecordOf(version, funcNo)) return old->length;
   return IsLiveFunction(funcNo) ? kCatalogueLength[funcNo] : -1;
 }
 

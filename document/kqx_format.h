@@ -8,6 +8,7 @@
 #include <string>
 
 #include "document/byte_reader.h"
+#include "document/functions.h"
 #include "document/header.h"
 
 namespace kq {
@@ -27,6 +28,27 @@ inline constexpr size_t kMaxKqxFileSize =
 
 // Compares the five bytes exactly, NUL included, with "3.10", "3.08" and "3.09".
 KqxVersion VersionOf(const char (&version)[5]);
+
+// The records whose form changed since an older version: the old length of each, and
+// whether the function was discontinued (its record is read and thrown away).
+struct OldRecordLayout {
+  KqxVersion version;
+  Fn fn;
+  int32_t length;
+  bool discontinued;
+};
+inline constexpr OldRecordLayout kOldRecords[] = {
+    {KqxVersion::V308, Fn::CallOut, 140, false},  // five outcomes instead of seven
+    {KqxVersion::V308, Fn::DeleteRecord, 56, false},
+    {KqxVersion::V308, Fn::SelectRecords, 56, false},
+    {KqxVersion::V308, Fn::UpdateRecord, 56, false},
+    {KqxVersion::V308, Fn::Empty35, 152, true},  // the WHERE Clause
+    {KqxVersion::V309, Fn::DeleteRecord, 56, false},
+    {KqxVersion::V309, Fn::UpdateRecord, 56, false},
+    {KqxVersion::V309, Fn::Empty35, 152, true},
+};
+// The entry of a function in that version; nullptr when its record has the current form.
+const OldRecordLayout* OldRecordOf(KqxVersion version, int funcNo);
 
 // The length of function funcNo's record in a file of that version; -1 for a number the
 // version does not know.

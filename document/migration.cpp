@@ -72,28 +72,22 @@ void ReadHeader308(ByteReader& in, ProgramHeader& hdr) {
 }
 
 bool HasOldRecord(KqxVersion version, int funcNo) {
-  switch (version) {
-    case KqxVersion::V308:
-      return funcNo == 5 || funcNo == 27 || funcNo == 29 || funcNo == 34;
-    case KqxVersion::V309:
-      return funcNo == 27 || funcNo == 34;
-    default:
-      return false;
-  }
+  const OldRecordLayout* old = OldRecordOf(version, funcNo);
+  return old != nullptr && !old->discontinued;
 }
 
 void ReadOldRecord(ByteReader& in, int funcNo, RecordSet& work) {
-  switch (funcNo) {
-    case 5:
+  switch (ToFn(funcNo)) {
+    case Fn::CallOut:
       ReadOldCallOut(in, work.CallOut);
       break;
-    case 27:
+    case Fn::DeleteRecord:
       ReadOldTableRecord(in, work.DeleteRecord, InitRecord.DeleteRecord);
       break;
-    case 29:
+    case Fn::SelectRecords:
       ReadOldTableRecord(in, work.SelectRecords, InitRecord.SelectRecords);
       break;
-    case 34:
+    case Fn::UpdateRecord:
       ReadOldTableRecord(in, work.UpdateRecord, InitRecord.UpdateRecord);
       break;
     default:

@@ -19,7 +19,7 @@ bool HasOldRecord(KqxVersion version, int funcNo);
 void ReadOldRecord(ByteReader& in, int funcNo, RecordSet& work);
 
 // The record of the discontinued function 35, read and thrown away.
-inline constexpr int kDiscontinuedFunction = 35;
+inline constexpr int kDiscontinuedFunction = ToInt(Fn::Empty35);
 inline constexpr size_t kDiscontinuedRecordSize = 152;
 
 }  // namespace kq

@@ -4,10 +4,11 @@
 #include <cstring>
 
 #include "document/catalogue.h"
+#include "document/functions.h"
+#include "document/record_view.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "editor/listing.h"
-#include "editor/record_view.h"
 #include "ui/platform/platform.h"
 
 namespace kq {
@@ -100,19 +101,19 @@ class LineRows {
 };
 
 void WriteParameters(LineRows& r, int f) {
-  switch (f) {
-    case 0:
+  switch (ToFn(f)) {
+    case Fn::Assign:
       r.Row(r.V(0) + " = " + r.V(32));
       r.L(64, "Error label = ");
       break;
-    case 1:
+    case Fn::AssignPath:
       r.Row(r.PathTypeName(0) + ":  " + r.Path(4) + " = " + r.Path(32));
       break;
-    case 2:
+    case Fn::Calculate:
       r.Row(r.V(0) + " = " + r.V(32) + StringArithmeticOpr(r.I(96)) + r.V(64));
       r.L(100, "Error label = ");
       break;
-    case 3:
+    case Fn::Condition:
       r.Row("IF " + r.V(0) + StringRelationalOpr(r.I(64)) + r.V(32) + " THEN");
       r.L(68, "", 100);
       if (!r.Empty(84, 16)) {
@@ -121,11 +122,11 @@ void WriteParameters(LineRows& r, int f) {
       }
       r.Row("END IF");
       break;
-    case 4:
-    case 15:
+    case Fn::Delay:
+    case Fn::RSwitch:
       r.Row(r.N(0) + "ms");
       break;
-    case 5:
+    case Fn::CallOut:
       r.Row(r.V(148));
       for (int i = 0; i < 7; ++i) {
         if (r.Empty(16 * i, 16)) continue;
@@ -134,10 +135,10 @@ void WriteParameters(LineRows& r, int f) {
       r.RowIf(140, "Number of rings = " + r.N(140));
       r.Row("Wait for dial tone = " + r.YesNo(144));
       break;
-    case 6:
+    case Fn::GetDate:
       r.Row(r.V(4) + " = " + r.Name(DateFormatNames, r.I(0)));
       break;
-    case 7:
+    case Fn::GetKeys:
       r.Row(r.V(0));
       r.Row("Number of keys  = " + r.Name(KeyCountNames, r.I(32)));
       r.Row("Termination key = " + r.Name(TermKeyNames, r.I(36)));
@@ -148,20 +149,20 @@ void WriteParameters(LineRows& r, int f) {
       r.Row("Timeout =" + r.S(104) + "sec.");
       r.Row("Terminate = " + r.YesNo(108));
       break;
-    case 8:
+    case Fn::GetTime:
       r.Row(r.V(4) + " = " + r.Name(TimeFormatNames, r.I(0)));
       break;
-    case 9:
+    case Fn::Gosub:
       r.L(0, "");
       r.L(20, "Error label = ");
       break;
-    case 10:
+    case Fn::Goto:
       r.L(0, "");
       break;
-    case 11:
+    case Fn::Random:
       r.Row(r.N(32) + " <= " + r.V(0) + " <= " + r.N(36));
       break;
-    case 12:
+    case Fn::RecordSound:
       r.Row(r.Path(0) + "\\" + r.V(28));
       r.Row("Max. recording time =" + r.S(60) + "sec.");
       r.RowIf(64, "Sound file counter active");
@@ -175,35 +176,35 @@ void WriteParameters(LineRows& r, int f) {
       r.L(128, "Silence label = ");
       r.Row("Silence timeout =" + r.S(148) + "sec.");
       break;
-    case 13:
+    case Fn::Remark:
       r.Row(NulToBlank(
           std::string_view(reinterpret_cast<const char*>(WorkRecord.Remark.RemarkText), 52)));
       break;
-    case 14:
+    case Fn::Return:
       r.Row(r.N(0));
       r.L(4, "Error label = ");
       break;
-    case 16:
+    case Fn::SayNumber:
       r.Row(r.V(0) + "\\" + r.Path(124) + "  Layout = " + r.Name(SayLayoutNames, r.I(32)));
       r.Row("After period = " + r.Path(68) + "\\" + r.T(152, 16));
       r.Row("At the end = " + r.Path(96) + "\\" + r.T(168, 16));
       r.RowIf(36, "Disable hangup detection");
       r.L(40, "Hangup label = ");
       break;
-    case 17:
+    case Fn::VariableExport:
       r.Row(r.Path(808) + "\\" + r.V(836));
       r.NameList(r.Indent(), 4, 32, 28, 25, 3);
       r.Row("Field separator = " + r.Name(FieldSepNames, r.I(800)));
       r.Row("Text delimitor  = " + r.Name(TextDelimNames, r.I(804)));
       r.L(868, "Error label = ");
       break;
-    case 18:
+    case Fn::Voice:
       r.NameList(r.Indent() + r.Path(0) + "\\", 28, 16, 16, 5, 2);
       r.RowIf(108, "Disable hangup detection");
       r.L(112, "Hangup label = ");
       r.L(132, "Error label  = ");
       break;
-    case 19:
+    case Fn::WaitForCall:
       r.Row("Number of rings = " + r.N(0));
       if (r.I(4) != 0) {
         r.Row("At " + r.Name(HourNames, r.I(8) - 1) + "." + r.Name(MinuteNames, r.I(12)) +
@@ -220,7 +221,7 @@ void WriteParameters(LineRows& r, int f) {
         r.Row("Called id. number = " + r.V(88));
       }
       break;
-    case 20:
+    case Fn::WaitForKey:
       r.RowIf(380, "Disable hangup detection");
       for (int i = 0; i < 19; ++i) {
         if (r.Empty(16 * i, 16)) continue;
@@ -229,7 +230,7 @@ void WriteParameters(LineRows& r, int f) {
       r.Row("Timeout =" + r.S(384) + "sec.");
       r.Row("Terminate = " + r.YesNo(388));
       break;
-    case 21:
+    case Fn::SayFile:
       r.Row(r.Path(0) + "\\" + r.V(28));
       r.RowIf(60, "Sound file counter active");
       r.RowIf(64, "Rate and gain control");
@@ -237,111 +238,111 @@ void WriteParameters(LineRows& r, int f) {
       r.L(72, "Hangup label = ");
       r.L(92, "Error label = ");
       break;
-    case 24:
+    case Fn::ConnectTable:
       r.Row(r.Table(0));
       r.Row("Timeout     = " + r.N(16) + "sec.");
       r.L(20, "Busy  label = ");
       r.L(40, "Error label = ");
       break;
-    case 25:
-    case 26:
-    case 40:
+    case Fn::DisconnectTable:
+    case Fn::AddRecord:
+    case Fn::EmptyTable:
       r.Row(r.Table(0));
       r.L(16, "Error  label = ");
       break;
-    case 27:
-    case 34:
+    case Fn::DeleteRecord:
+    case Fn::UpdateRecord:
       r.Row(r.Table(0));
       r.L(16, "Error   label = ");
       r.WhereConditions();
       break;
-    case 29:
+    case Fn::SelectRecords:
       r.Row(r.Table(0));
       r.L(16, "Error label = ");
       r.WhereConditions();
       break;
-    case 28:
-    case 31:
-    case 32:
-    case 33:
+    case Fn::GetFirstRecord:
+    case Fn::GetLastRecord:
+    case Fn::GetNextRecord:
+    case Fn::GetPrevRecord:
       r.Row(r.Table(0));
       r.L(16, "Error   label = ");
       r.L(36, "No Data label = ");
       break;
-    case 30:
+    case Fn::InsertRecord:
       r.Row(r.Table(0));
       r.L(16, "Error  label  = ");
       break;
-    case 36:
+    case Fn::GetDayOfWeek:
       r.Row(r.V(4) + (r.I(0) == 0 ? "   1=Monday, 2=Tuesday ... 7=Sunday"
                                   : "   1=Sunday, 2=Monday ... 7=Saturday"));
       break;
-    case 37:
+    case Fn::DialNumber:
       r.Row(r.V(0));
       r.Row(r.YesNo(32));
       r.L(36, "No dial tone label = ");
       r.L(56, "Error label = ");
       break;
-    case 38:
+    case Fn::GetRecordNo:
       r.Row(r.Table(0) + "  Record number = " + r.V(36));
       r.L(16, "Error  label = ");
       break;
-    case 39:
+    case Fn::GetNoOfRec:
       r.Row(r.Table(0));
       r.Row("Variable " + r.V(36) + " = No. of records in database table");
       r.L(16, "Error  label = ");
       break;
-    case 41:
+    case Fn::GetChannelNo:
       r.Row(r.V(0));
       break;
-    case 43:
+    case Fn::OnOffHook:
       r.Row(r.Name(HookActionNames, r.I(0)));
       break;
-    case 44:
+    case Fn::TrimString:
       r.Row(r.V(36) + " = TRIM( " + r.V(4) + " )");
       r.Row("A = " + r.Name(TrimActionNames, r.I(0)));
       break;
-    case 45:
+    case Fn::LenString:
       r.Row(r.V(0) + " = LEN( " + r.V(32) + " )");
       break;
-    case 46:
+    case Fn::RightString:
       r.Row(r.V(0) + " = RIGHT( " + r.V(32) + " , " + r.V(64) + " )");
       break;
-    case 47:
+    case Fn::LeftString:
       r.Row(r.V(0) + " = LEFT( " + r.V(32) + " , " + r.V(64) + " )");
       break;
-    case 48:
+    case Fn::InString:
       r.Row(r.V(0) + " = INSTR( " + r.V(32) + " , " + r.V(64) + " )");
       break;
-    case 49:
+    case Fn::CheckPath:
       r.Row("Path Type = " + r.PathTypeName(0));
       r.Row("IF " + r.Path(4) + " DO NOT EXISTS THEN");
       r.CheckTargets(32, 64);
       break;
-    case 50:
+    case Fn::CheckFile:
       r.Row("Path Type = " + r.PathTypeName(0));
       r.Row("Path Variable = " + r.Path(4));
       r.Row("IF " + r.V(32) + " DO NOT EXISTS THEN");
       r.CheckTargets(64, 96);
       break;
-    case 51:
+    case Fn::DeleteFile:
       r.Row("Path Type      = " + r.PathTypeName(0));
       r.Row("Path Variable  = " + r.Path(4));
       r.Row("File to delete = " + r.V(32));
       r.Row("IF THE FILE WASN'T DELETED THEN");
       r.CheckTargets(64, 96);
       break;
-    case 52:
+    case Fn::SoundFileCount:
       r.Row(r.Name(CounterActionNames, r.I(0)) + "  Variable = " + r.V(4));
       break;
-    case 53:
+    case Fn::Run:
       r.Row("Path Variable = " + r.Path(0));
       r.Row("File Name     = " + r.V(28));
       if (!r.Empty(64, 28)) r.Row("Parameters    = " + r.V(60));
       r.Row("Wait for termination of program = " + r.YesNo(92));
       r.L(96, "Error label = ");
       break;
-    case 54:
+    case Fn::CTBusConnect:
       r.Row((r.I(160) == 0 ? "MVIP - Board Number  = " : "H.100 - Board Number  = ") + r.V(0));
       r.Row("From Stream   = " + r.V(32));
       r.Row("From Timeslot = " + r.V(64));
@@ -349,7 +350,7 @@ void WriteParameters(LineRows& r, int f) {
       r.Row("To Timeslot   = " + r.V(128));
       r.L(164, "Error label = ");
       break;
-    case 55:
+    case Fn::Prototype:
       r.Row("Function=" + r.V(0));
       for (int i = 0; i < 8; ++i) r.Row("Check" + Num(i) + "=" + r.YesNo(32 + 4 * i));
       for (int i = 0; i < 8; ++i) r.Row("Variable" + Num(i) + "=" + r.V(64 + 32 * i));

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
+#include "document/record_view.h"
 #include "document/state.h"
 #include "document/text.h"
-#include "editor/record_view.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/model/form.h"
 #include "ui/model/list_controls.h"
