@@ -136,7 +136,7 @@ int SpeechFormatOfFile(std::string_view fileName, int voxFormat) {
 std::string GetSpeechFileExt() {
   const std::string_view ext = SpeechFileExt(SpeechAudioFormat);
   if (ext.empty()) {
-    ui::ProgramError("Illegal speech format =" + Str(int64_t{SpeechAudioFormat}) +
+    ui::ProgramError("Illegal speech format = " + Str(int64_t{SpeechAudioFormat}) +
                      " in GetSpeechFileExt.");
   }
   return std::string(ext);

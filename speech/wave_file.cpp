@@ -36,6 +36,17 @@ void PutTag(std::vector<uint8_t>& out, std::string_view tag) {
   out.insert(out.end(), tag.begin(), tag.end());
 }
 
+// The extensible layout: format tag 0xFFFE, and behind the standard 16 bytes a size of 22,
+// the valid bits, the channel mask and the sub-format, whose GUID names PCM as tag 1 does.
+constexpr uint16_t kExtensibleTag = 0xFFFE;
+constexpr uint8_t kPcmSubFormat[16] = {0x01, 0x00, 0x00, 0x00, 0x00, 0x00, 0x10, 0x00,
+                                       0x80, 0x00, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71};
+
+bool IsExtensiblePcm(std::span<const uint8_t> fmt) {
+  return fmt.size() >= 40 && Get16(fmt, 0) == kExtensibleTag &&
+         std::memcmp(fmt.data() + 24, kPcmSubFormat, sizeof kPcmSubFormat) == 0;
+}
+
 int CheckFormat(const WaveFormat& f) {
   if (f.formatTag != 1) return kWaveNotPcm;
   if (f.bitsPerSample != 8 && f.bitsPerSample != 16) return kWaveBadBits;
@@ -101,6 +112,7 @@ int ParseWave(std::span<const uint8_t> file, Pcm& pcm) {
       format.avgBytesPerSec = Get32(file, body + 8);
       format.blockAlign = Get16(file, body + 12);
       format.bitsPerSample = Get16(file, body + 14);
+      if (IsExtensiblePcm(file.subspan(body, length))) format.formatTag = 1;
       if (const int fault = CheckFormat(format); fault != kConvertOk) return fault;
       haveFormat = true;
     } else if (TagIs(file, at, "fact")) {

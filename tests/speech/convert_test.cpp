@@ -149,6 +149,46 @@ TEST_F(ConvertTest, EveryFaultGivesItsOwnCode) {
   EXPECT_EQ(ToFormat(wav, out, 0), 0);  // and the file was fine all along
 }
 
+// A "fmt " chunk in the extensible layout: the standard 16 bytes under tag 0xFFFE, then
+// the extension size 22, the valid bits, the channel mask and the sub-format GUID, whose
+// first two bytes are the format tag it stands for.
+Bytes ExtensibleFmt(int bits, uint16_t subFormat) {
+  Bytes b;
+  Put(b, 0xFFFE, 2);
+  Put(b, 1, 2);
+  Put(b, 8000, 4);
+  Put(b, 8000 * bits / 8, 4);
+  Put(b, bits / 8, 2);
+  Put(b, bits, 2);
+  Put(b, 22, 2);
+  Put(b, bits, 2);
+  Put(b, 4, 4);  // front centre
+  Put(b, subFormat, 2);
+  for (const uint8_t g :
+       {0x00, 0x00, 0x00, 0x00, 0x10, 0x00, 0x80, 0x00, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71}) {
+    b.push_back(g);
+  }
+  return Chunk("fmt ", b);
+}
+
+TEST_F(ConvertTest, ExtensibleLayoutIsPcmWhenItsSubFormatIs) {
+  const std::vector<int16_t> s{0, 1000, -1000, 32767, -32768};
+  Pcm pcm;
+  ASSERT_EQ(ParseWave(RiffFile({ExtensibleFmt(16, 1), Chunk("data", PcmBytes(s, 16))}), pcm), 0);
+  EXPECT_EQ(pcm.rate, 8000);
+  EXPECT_EQ(pcm.samples, s);
+  const std::string out = PathOf("out.r32");
+  const std::string wav = Write(
+      "ext.wav", RiffFile({ExtensibleFmt(16, 1), Chunk("data", PcmBytes(Tone(8000, 0.1), 16))}));
+  EXPECT_EQ(ToFormat(wav, out, kRhetorex32), 0);
+  EXPECT_EQ(std::filesystem::file_size(out), 400u);
+  // PCM of another width is refused for its width; other sub-formats, or the tag without
+  // its extension, are not PCM.
+  EXPECT_EQ(ParseWave(RiffFile({ExtensibleFmt(24, 1), Chunk("data", Bytes(30, 0))}), pcm), 12);
+  EXPECT_EQ(ParseWave(RiffFile({ExtensibleFmt(32, 3), Chunk("data", Bytes(40, 0))}), pcm), 11);
+  EXPECT_EQ(ParseWave(RiffFile({Fmt(8000, 16, 1, 0xFFFE), Chunk("data", Bytes(10, 0))}), pcm), 11);
+}
+
 TEST_F(ConvertTest, WaveFilesOfBothWidthsReadBackTheirSamples) {
   const std::vector<int16_t> s{0, 256, -256, 32512, -32768, 1280};
   for (const int bits : {8, 16}) {
@@ -199,7 +239,7 @@ TEST(SpeechFormats, GetSpeechFileExtFollowsTheMenuAndRefusesWave) {
   } catch (const ui::ProgramEnded& e) {
     error = e.what();
   }
-  EXPECT_EQ(error, "Illegal speech format = 4 in GetSpeechFileExt.");
+  EXPECT_EQ(error, "Illegal speech format =  4 in GetSpeechFileExt.");
   kq::SpeechAudioFormat = saved;
   ui::SetPlatform(nullptr);
 }
