@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <memory>
@@ -12,8 +13,8 @@
 #include "document/state.h"
 #include "editor/frm_edit.h"
 #include "ui/headless/headless_platform.h"
-#include "ui/platform/codepage.h"
 #include "ui/model/menu.h"
+#include "ui/platform/codepage.h"
 #include "ui/platform/platform.h"
 
 namespace kqx {
@@ -157,6 +158,8 @@ int CmdScript(CliContext& ctx) {
     ctx.err << kUsage;
     return kExitRefused;
   }
+  // The dialogs move the working folder: the settings go back to the file that was named.
+  if (!settingsFile.empty()) settingsFile = std::filesystem::absolute(settingsFile).string();
   std::ifstream script;
   if (file != "-") {
     script.open(file, std::ios::binary);
