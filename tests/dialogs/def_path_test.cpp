@@ -212,6 +212,7 @@ TEST_F(DefPathTest, AddRefusesADirectoryLongerThanItsField) {
   Define([&](kq::frmDefPath& d) {
     ASSERT_EQ(d.dirPath.UserPath(deep.string()), 0);
     Add(d, "deep");
+    ASSERT_EQ(p.CountOf("msgbox"), 1);
     EXPECT_EQ(LastBox(), "Path name add error: Path " + shown + " has more than 259 characters.");
     EXPECT_EQ(p.EventsOf("msgbox").back().fields["icon"].Str(), "exclamation");
     EXPECT_EQ(d.lstVariable.ListCount(), 0);

@@ -360,7 +360,7 @@ TEST_F(VoiceFolderTest, SayNumberRefusesAVoiceFileLongerThanItsField) {
     ASSERT_EQ(d.filVoice[0].List(2), "abcdefghijkl.vox");
     d.filVoice[0].UserSelect(2);
     EXPECT_EQ(d.filVoice[0].ListIndex(), -1);
-    EXPECT_EQ(
+    ASSERT_EQ(
         BoxTexts(),
         (std::vector<std::string>{"Voice file abcdefghijkl.vox has more than 15 characters."}));
     EXPECT_EQ(p.EventsOf("msgbox").back().fields["title"].Str(), "Say Number");
