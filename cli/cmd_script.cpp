@@ -1,5 +1,6 @@
 #include "cli/cmd_script.h"
 
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <iostream>
@@ -139,10 +140,13 @@ int Script(Session& session, const ScriptArgs& a) {
   platform.SetUserDirectory(ui::Utf8ToCp1252(a.homeDir));
   platform.SetTempDirectory(ui::Utf8ToCp1252(a.homeDir));
   platform.SettingsOf("KQEdit", "Settings").clear();
-  if (!a.settingsFile.empty()) platform.LoadSettingsFile(a.settingsFile);
+  // The dialogs move the working folder: the settings go back to the file that was named.
+  const std::string settingsFile =
+      a.settingsFile.empty() ? std::string() : std::filesystem::absolute(a.settingsFile).string();
+  if (!settingsFile.empty()) platform.LoadSettingsFile(settingsFile);
   const int status =
       ui::RunScriptOn(platform, a.file == "-" ? std::cin : script, EditorScriptHooks());
-  if (!a.settingsFile.empty() && !platform.SaveSettingsFile(a.settingsFile)) {
+  if (!settingsFile.empty() && !platform.SaveSettingsFile(settingsFile)) {
     session.err << "kqx script: cannot write " << a.settingsFile << "\n";
   }
   return status;

@@ -57,6 +57,9 @@ void frmDefDBTbl::Form_Load() {
     for (int k = 0; k < kMaxVariables; ++k) {
       const VarRef& v = PrgHdr.Variable[k];
       if (FieldEmpty(View(v.VarRefName))) continue;
+      // Position k + 1 is variable entry k: a blank entry before it (as older files have
+      // them) keeps a blank item, which stands for no binding.
+      while (c.ListCount() < k + 1) c.AddItem("");
       c.AddItem(NulToBlank(View(v.VarRefName)), k + 1);
     }
     c.SetListIndex(0);

@@ -7,12 +7,18 @@
 #include "document/text.h"
 #include "ui/platform/disk.h"
 #include "ui/platform/platform.h"
+#include "ui/platform/run_time_error.h"
 
 namespace kq {
 
 namespace {
 
 constexpr int kMaxRetries = 100;  // a Retry answered for ever must not hang the dialog
+
+std::string WithSeparator(std::string directory) {
+  if (directory.empty() || directory.back() != '/') directory += '/';
+  return directory;
+}
 
 }  // namespace
 
@@ -72,9 +78,9 @@ bool frmDefPath::ShowDirectory(const std::string& directory) {
   int error = drvPath.SetDrive(directory);
   if (error == 0) error = dirPath.SetPath(directory);
   if (error == 0) return true;
-  // The message ends the step; an error that is not a missing disk or path has no box of
-  // its own and ends it too.
-  HandlePathError(error);
+  // A missing disk or path: the message ends the step. Any other error is raised again,
+  // and with no handler above it ends the program.
+  if (HandlePathError(error) == kDiskRaise) ui::RunTimeError(error);
   return false;
 }
 
@@ -94,6 +100,7 @@ void frmDefPath::drvPath_Change() {
     if (error == 0) error = ui::disk().ChangeDirectory(dirPath.Path());
     if (error == 0) return;
     const int action = HandleDiskError("Change drive path", error);
+    if (action == kDiskRaise) ui::RunTimeError(error);
     if (action != kDiskRetry || attempt >= kMaxRetries) return;
   }
 }
@@ -104,7 +111,7 @@ void frmDefPath::dirPath_Change() {
     if (filPath.ListCount() > 0) filPath.SetListIndex(0);
     error = ui::disk().ChangeDirectory(dirPath.Path());
   }
-  if (error != 0) HandlePathError(error);
+  if (error != 0 && HandlePathError(error) == kDiskRaise) ui::RunTimeError(error);
 }
 
 void frmDefPath::cmdAdd_Click() {
@@ -113,9 +120,8 @@ void frmDefPath::cmdAdd_Click() {
     ShowListFull(kPathRows);
   } else if (Listed(name)) {
     ShowExists(name);
-  } else {
-    std::string directory = dirPath.Path();
-    if (directory.empty() || directory.back() != '/') directory += '/';
+  } else if (std::string directory = WithSeparator(dirPath.Path());
+             NameFits(directory, sizeof(PathEntry::PathText), "Path", "Path name add error")) {
     lstVariable.AddItem(name);
     lstDataType.AddItem(directory, lstVariable.NewIndex());
     txtName.SetText("");

@@ -32,6 +32,7 @@ frmSayNo::frmSayNo() : FuncDialog("frmSayNo", "Say Number", 16) {
     chkPlay[i].SetWidth(1800);
     chkPlay[i].OnClick = [this, i] { chkPlay_Click(i); };
     cboPathVar[i + 1].OnClick = [this, i] { cboPathVar_Click(i); };
+    filVoice[i].OnClick = [this, i] { VoiceFileFits(i); };
     filVoice[i].SetWidth(2400);
     filVoice[i].SetPattern(kNoFiles);
     cboPathVar[i + 1].SetEnabled(false);
@@ -152,9 +153,20 @@ void frmSayNo::cboPathVar_Click(int index) {
   if (error != 0) HandlePathError(error);
 }
 
+bool frmSayNo::VoiceFileFits(int index) {
+  const std::string name = filVoice[index].FileName();
+  if (NameFits(name, sizeof(SayNumberRec::SayVoiceFile[0]), "Voice file", Caption())) return true;
+  filVoice[index].SetListIndex(-1);
+  filVoice[index].SetFocus();
+  return false;
+}
+
 bool frmSayNo::CheckBeforeLabel() {
   for (int i = 0; i < 2; ++i) {
-    if (chkPlay[i].Value() == 1 && filVoice[i].FileName().empty()) return Refuse(filVoice[i]);
+    if (chkPlay[i].Value() != 1) continue;
+    if (filVoice[i].FileName().empty()) return Refuse(filVoice[i]);
+    // A file the list selected by itself is checked here, as one clicked is at once.
+    if (!VoiceFileFits(i)) return false;
   }
   return true;
 }

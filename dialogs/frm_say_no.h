@@ -41,6 +41,9 @@ class frmSayNo : public FuncDialog {
   void cboVariable_Click();
   void chkPlay_Click(int index);
   void cboPathVar_Click(int index);
+  // Refuses a chosen voice file whose name its field could hold only cut short; the list
+  // then has no file selected.
+  bool VoiceFileFits(int index);
   // The layouts a variable of the shown type can take; layout selects its row.
   void GetListBoxLayout(int32_t layout);
   int32_t ShownType();

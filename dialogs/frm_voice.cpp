@@ -142,6 +142,7 @@ void frmVoice::cmdAdd_Click() {
                             ui::vbOKOnly | ui::vbExclamation, kAddTitle);
       continue;
     }
+    if (!NameFits(name, sizeof(VoiceRec::VoiceFile[0]), "Voice file", kAddTitle)) continue;
     // The record has five slots: the sixth is refused as the first would be at five.
     if (lstSelectedVoice.ListCount() >= kMaxVoiceFiles) {
       ui::platform().MsgBox(maximum, ui::vbOKOnly | ui::vbExclamation, kAddTitle);

@@ -1,4 +1,5 @@
-// The messages of the audio conversion's return codes.
+// The messages of the audio conversion's return codes, and the refusal of a name too long
+// for its field.
 #include "dialogs/services.h"
 #include "document/text.h"
 #include "ui/platform/platform.h"
@@ -78,6 +79,16 @@ void ConvertMessage(int returnCode) {
                        " in Global ConvertMessage.");
   }
   ui::platform().MsgBox(text, ui::vbOKOnly | ui::vbExclamation, "Speech File Convert Error");
+}
+
+bool NameFits(std::string_view name, size_t width, const std::string& what,
+              const std::string& title) {
+  const size_t limit = width - 1;
+  if (name.size() <= limit) return true;
+  ui::platform().MsgBox(what + " " + std::string(name) + " has more than" +
+                            Str(static_cast<int64_t>(limit)) + " characters.",
+                        ui::vbOKOnly | ui::vbExclamation, title);
+  return false;
 }
 
 }  // namespace kq

@@ -79,6 +79,12 @@ void TypeText(ui::Control& control, std::string_view text);
 // ---- Messages
 // The message of a return code of the audio conversion; code 0 shows nothing.
 void ConvertMessage(int returnCode);
+// A name chosen or typed for a fixed field of `width` bytes holds at most width - 1
+// characters, the field keeping its NUL. A longer one is refused where it is chosen, with
+// the box "{what} {name} has more than {n} characters." under the title, so that nothing
+// is ever stored cut short. True when the name fits.
+bool NameFits(std::string_view name, size_t width, const std::string& what,
+              const std::string& title);
 
 // ---- Helpers shared by the services and the dialogs
 // The text of a fixed field for display and comparison: trailing blanks and the closing

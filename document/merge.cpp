@@ -46,7 +46,7 @@ void Refuse(const std::string& text, const std::string& title) {
 
 std::string DataTypeName(int32_t type) {
   if (type < 0 || type > 2) return Str(int64_t{type});
-  return RTrim(Row(DataTypeNames[type]));
+  return Row(DataTypeNames[type]);
 }
 
 // Which of the document's variables have a name, worked out once per command: the

@@ -16,8 +16,7 @@ void frmGotoLabel::cmdOk_Click() {
   bool listed = false;
   const int count = EditList().ListCount();
   for (int line = 0; line < count && !listed; ++line) {
-    const std::string_view label = View(LineTable[line].LineLabel);
-    listed = !FieldEmpty(label) && RTrim(label) == name + '\0';
+    listed = !FieldEmpty(View(LineTable[line].LineLabel)) && ListedLabel(line) == name;
   }
   if (!listed) {
     ui::ProgramError("Selected label " + name + " not found cmdOk_Click in frmGotoLabel.");

@@ -1,5 +1,7 @@
 #include "editor/frm_label.h"
 
+#include <algorithm>
+
 #include "dialogs/services.h"
 #include "document/state.h"
 #include "document/text.h"
@@ -8,11 +10,17 @@
 
 namespace kq {
 
+std::string ListedLabel(int line) {
+  std::string text = RTrim(View(LineTable[line].LineLabel));
+  text.erase(std::min(text.find('\0'), text.size()));
+  return text;
+}
+
 bool FillLabelList(ui::ListBox& list) {
   list.Clear();
   const int count = EditList().ListCount();
   for (int line = 0; line < count; ++line) {
-    if (!FieldEmpty(View(LineTable[line].LineLabel))) list.AddItem(Text(LineTable[line].LineLabel));
+    if (!FieldEmpty(View(LineTable[line].LineLabel))) list.AddItem(ListedLabel(line));
   }
   if (list.ListCount() == 0) {
     ui::platform().MsgBox("Can't find any labels.", ui::vbExclamation | ui::vbOKOnly,

@@ -29,6 +29,10 @@ class frmLabel : public LabelListForm {
   void cmdOk_Click() override;
 };
 
+// The label of a line as the label lists show it: right-trimmed and ending at its NUL. A
+// label field that fills its 16 characters (a file made elsewhere) is listed whole.
+std::string ListedLabel(int line);
+
 // Fills the list with the labels of all lines that have one; false (after the box "Can't
 // find any labels.") when there is none. Shared by both label dialogs.
 bool FillLabelList(ui::ListBox& list);

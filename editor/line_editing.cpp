@@ -258,7 +258,8 @@ void InsertLine(FrmEdit& form) {
   // The Insert key reaches here whatever the menu says: with no current line there is
   // nothing to insert in front of.
   if (list.ListIndex() < 0 || list.ListIndex() >= list.ListCount()) return;
-  if (list.ListCount() >= kMaxListLines) {
+  // The key passes the menu's limit; only a line the stores cannot hold is refused.
+  if (list.ListCount() >= kMaxLines) {
     ui::platform().Beep();
     return;
   }

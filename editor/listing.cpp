@@ -88,7 +88,11 @@ void WritePaths(const RowSink& row) {
 
 }  // namespace
 
-void WriteListing(const RowSink& row, const std::string& dateTime) {
+void WriteListing(const RowSink& sink, const std::string& dateTime) {
+  // A listing row is plain text: a NUL that a field or a name table row carries (the
+  // unfilled outcome captions of Call Out, for one) comes out as a blank, in the text file
+  // and so on the printer.
+  const RowSink row = [&sink](const std::string& text) { sink(NulToBlank(text)); };
   WriteHeader(row, dateTime);
   WriteVariables(row);
   WriteTables(row);

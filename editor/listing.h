@@ -16,7 +16,8 @@ struct ListingFault : std::runtime_error {
 
 using RowSink = std::function<void(const std::string& row)>;
 
-// The rows of the listing, in order; dateTime is the text of the first row.
+// The rows of the listing, in order; dateTime is the text of the first row. No row holds
+// a NUL: each one comes out as a blank.
 // Throws ListingFault after the rows written so far.
 void WriteListing(const RowSink& row, const std::string& dateTime);
 // The rows of one line of code: its prefix row and its parameter rows.

@@ -36,6 +36,18 @@ void PutTag(std::vector<uint8_t>& out, std::string_view tag) {
   out.insert(out.end(), tag.begin(), tag.end());
 }
 
+// The extensible layout: format tag 0xFFFE, and behind the standard 16 bytes a size of 22,
+// the valid bits, the channel mask and the sub-format, whose GUID names PCM as tag 1 does.
+constexpr uint16_t kExtensibleTag = 0xFFFE;
+constexpr size_t kExtensibleSize = 40;
+constexpr uint8_t kPcmSubFormat[16] = {0x01, 0x00, 0x00, 0x00, 0x00, 0x00, 0x10, 0x00,
+                                       0x80, 0x00, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71};
+
+bool IsExtensiblePcm(std::span<const uint8_t> fmt) {
+  return fmt.size() >= kExtensibleSize && Get16(fmt, 0) == kExtensibleTag &&
+         std::memcmp(fmt.data() + 24, kPcmSubFormat, sizeof kPcmSubFormat) == 0;
+}
+
 int CheckFormat(const WaveFormat& f) {
   if (f.formatTag != 1) return kWaveNotPcm;
   if (f.bitsPerSample != 8 && f.bitsPerSample != 16) return kWaveBadBits;
@@ -60,7 +72,7 @@ int LocateWaveData(uint64_t size, const WaveReadAt& read, WaveData& data) {
   bool haveFact = false;
   uint32_t factSamples = 0;
   uint64_t at = 12;
-  uint8_t chunk[16];
+  uint8_t chunk[kExtensibleSize];
   while (at + 4 <= size) {
     if (!read(at, chunk, 4)) return kInputReadError;
     const bool isData = TagIs(chunk, 0, "data");
@@ -83,13 +95,15 @@ int LocateWaveData(uint64_t size, const WaveReadAt& read, WaveData& data) {
     }
     if (TagIs(chunk, 0, "fmt ")) {
       if (length < 16 || !complete) return kWaveNoHeader;
-      if (!read(body, chunk, 16)) return kInputReadError;
+      const size_t fmtSize = length >= kExtensibleSize ? kExtensibleSize : 16;
+      if (!read(body, chunk, fmtSize)) return kInputReadError;
       format.formatTag = Get16(chunk, 0);
       format.channels = Get16(chunk, 2);
       format.samplesPerSec = Get32(chunk, 4);
       format.avgBytesPerSec = Get32(chunk, 8);
       format.blockAlign = Get16(chunk, 12);
       format.bitsPerSample = Get16(chunk, 14);
+      if (IsExtensiblePcm({chunk, fmtSize})) format.formatTag = 1;
       if (const int fault = CheckFormat(format); fault != kConvertOk) return fault;
       haveFormat = true;
     } else if (TagIs(chunk, 0, "fact")) {

@@ -71,7 +71,7 @@ void frmConvert::Form_Load() {
   CenterForm(*this);
   const std::string_view caption = speech::ConvertCaption(SpeechAudioFormat);
   if (caption.empty()) {
-    ui::ProgramError("Illegal speech format index =" + Str(int64_t{SpeechAudioFormat}));
+    ui::ProgramError("Illegal speech format index = " + Str(int64_t{SpeechAudioFormat}));
   }
   SetCaption(std::string(caption));
   const FileSetting source = ReadFileSetting(kSourceSetting);
@@ -121,7 +121,9 @@ void frmConvert::cboTargetPathVar_Click() {
   for (int row = 0; row < kPathRows; ++row) {
     const PathEntry& entry = PrgHdr.Path[row][kVoiceColumn];
     if (FieldEmpty(View(entry.PathName)) || FieldText(View(entry.PathName)) != name) continue;
-    ShowFileSetting({drvTarget, dirTarget, filTarget}, {FieldText(View(entry.PathText)), ""});
+    // The lists move to the path; the file to play is left to the user.
+    ShowFileSetting({drvTarget, dirTarget, filTarget}, {FieldText(View(entry.PathText)), ""},
+                    /*selectFile=*/false);
     return;
   }
 }

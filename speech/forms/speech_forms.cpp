@@ -51,14 +51,14 @@ void SaveFileSetting(const std::string& key, const ui::FileListBox& files) {
   ui::platform().SaveSetting(kApp, kSection, key, JoinPath(files.Path(), files.FileName()));
 }
 
-void ShowFileSetting(DiskLists lists, const FileSetting& setting) {
+void ShowFileSetting(DiskLists lists, const FileSetting& setting, bool selectFile) {
   if (lists.drive.SetDrive(setting.folder) != 0) return;
   if (lists.dir.SetPath(setting.folder) != 0) return;
   // The file list follows the directory list's Change; when the folder was already open it
   // did not change, so the files are read here all the same.
   if (lists.files.SetPath(lists.dir.Path()) != 0) return;
   ui::disk().ChangeDirectory(lists.dir.Path());
-  if (lists.files.ListCount() == 0) return;
+  if (!selectFile || lists.files.ListCount() == 0) return;
   int index = 0;
   for (int i = 0; i < lists.files.ListCount(); ++i) {
     if (lists.files.List(i) == setting.file) index = i;
@@ -126,7 +126,7 @@ void PlaySpeechFile(ui::MMControl& media, const ui::FileListBox& files,
 std::string speech::GetSpeechFileExt() {
   const std::string_view ext = SpeechFileExt(SpeechAudioFormat);
   if (ext.empty()) {
-    ui::ProgramError("Illegal speech format =" + Str(int64_t{SpeechAudioFormat}) +
+    ui::ProgramError("Illegal speech format = " + Str(int64_t{SpeechAudioFormat}) +
                      " in GetSpeechFileExt.");
   }
   return std::string(ext);

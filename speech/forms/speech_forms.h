@@ -34,9 +34,10 @@ struct DiskLists {
   ui::DirListBox& dir;
   ui::FileListBox& files;
 };
-// Moves the lists to a folder and selects the file, or else the first. A drive or folder
-// that cannot be reached gives no message and leaves the lists where they were.
-void ShowFileSetting(DiskLists lists, const FileSetting& setting);
+// Moves the lists to a folder and (unless told not to) selects the file, or else the
+// first. A drive or folder that cannot be reached gives no message and leaves the lists
+// where they were.
+void ShowFileSetting(DiskLists lists, const FileSetting& setting, bool selectFile = true);
 // The drive list changed: the directory list follows and the process's directory with it;
 // a failure goes through HandleDiskError under the title.
 void FollowDrive(DiskLists lists, const std::string& title);

@@ -202,6 +202,30 @@ TEST_F(DefPathTest, AddAppendsOneSeparatorAndRefusesDuplicatesAndTheTwentyFirst)
   EXPECT_EQ(Table(68).size(), 20u);
 }
 
+// A directory whose text, with its separator, the path field could hold only cut short is
+// refused at Add with the limit in the box; the list and the table stay as they were.
+TEST_F(DefPathTest, AddRefusesADirectoryLongerThanItsField) {
+  const fs::path deep = root / std::string(200, 'a') / std::string(100, 'b');
+  fs::create_directories(deep);
+  const std::string shown = deep.string() + "/";
+  ASSERT_GT(shown.size(), 259u);
+  Define([&](kq::frmDefPath& d) {
+    ASSERT_EQ(d.dirPath.UserPath(deep.string()), 0);
+    Add(d, "deep");
+    ASSERT_EQ(p.CountOf("msgbox"), 1);
+    EXPECT_EQ(LastBox(), "Path name add error: Path " + shown + " has more than 259 characters.");
+    EXPECT_EQ(p.EventsOf("msgbox").back().fields["icon"].Str(), "exclamation");
+    EXPECT_EQ(d.lstVariable.ListCount(), 0);
+    EXPECT_EQ(d.txtName.Text(), "deep");  // the name stays for another directory
+    ASSERT_EQ(d.dirPath.UserPath(base + "/voice"), 0);
+    d.cmdAdd.UserClick();
+    EXPECT_EQ(Names(d), (std::vector<std::string>{"deep=" + base + "/voice/"}));
+    d.cmdOk.UserClick();
+  });
+  EXPECT_EQ(Table(68), (std::vector<std::string>{"deep=" + base + "/voice/"}));
+  EXPECT_EQ(p.CountOf("msgbox"), 1);
+}
+
 TEST_F(DefPathTest, ModifyDeleteAndClearWorkOnTheListsOnly) {
   Declare(68, 0, "one", base + "/voice/");
   Declare(68, 1, "two", base + "/msg/");
@@ -277,6 +301,43 @@ TEST_F(DefPathTest, TheDriveListBringsBackTheCurrentDirectoryOrTheDiskMessage) {
               "again.");
     EXPECT_EQ(d.dirPath.Path(), base + "/voice");
   });
+}
+
+// A folder name longer than this system's file names allow can't be read for another
+// reason than a missing path: the error is raised again, at load, on a click and on a
+// drive change alike, and ends the program with the run time's box.
+TEST_F(DefPathTest, OtherErrorsThanAMissingDiskOrPathAreRaisedAgain) {
+  const std::string tooLong = "/" + std::string(256, 'x') + "/";
+  const std::string raised = "Run-time error '75':\r\rPath/File access error";
+  Declare(68, 0, "long", tooLong);
+  EXPECT_THROW(kq::ShowDefinePaths(), ui::ProgramEnded);
+  EXPECT_EQ(ui::LastProgramError(), raised);
+  ASSERT_EQ(p.CountOf("msgbox"), 1);
+  EXPECT_EQ(LastBox(), "KQEdit: " + raised);
+  EXPECT_EQ(p.EventsOf("msgbox").back().fields["icon"].Str(), "critical");
+
+  p.ClearEvents();
+  Declare(68, 0, "a", base + "/voice/");
+  Declare(68, 1, "long", tooLong);
+  p.QueueModal("frmDefPath", [&](ui::Form& f) {
+    auto& d = static_cast<kq::frmDefPath&>(f);
+    EXPECT_EQ(d.dirPath.Path(), base + "/voice");
+    d.lstVariable.UserSelect(1);
+  });
+  EXPECT_THROW(kq::ShowDefinePaths(), ui::ProgramEnded);
+  EXPECT_EQ(LastBox(), "KQEdit: " + raised);
+
+  DriveDisk fake(ui::disk());
+  ui::SetDisk(&fake);
+  p.ClearEvents();
+  p.QueueModal("frmDefPath", [&](ui::Form& f) {
+    auto& d = static_cast<kq::frmDefPath&>(f);
+    fake.current = tooLong;
+    d.drvPath.UserPath("/");
+  });
+  EXPECT_THROW(kq::ShowDefinePaths(), ui::ProgramEnded);
+  EXPECT_EQ(p.CountOf("msgbox"), 1);  // no disk message of its own
+  EXPECT_EQ(LastBox(), "KQEdit: " + raised);
 }
 
 TEST_F(DefPathTest, AnIllegalDefineItemEndsTheProgram) {

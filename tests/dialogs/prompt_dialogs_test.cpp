@@ -352,6 +352,27 @@ TEST_F(VoiceFolderTest, SayNumberModifyShowsTheStoredFilesAndWritesBoth) {
   EXPECT_EQ(Bytes(kq::WorkRecord.SayNumber), Bytes(r));
 }
 
+TEST_F(VoiceFolderTest, SayNumberRefusesAVoiceFileLongerThanItsField) {
+  std::ofstream(root / "voice" / "abcdefghijkl.vox") << "x";  // 16 characters
+  Run<kq::frmSayNo>(16, [&](kq::frmSayNo& d) {
+    d.cboVariable.UserSelect(1);  // Rate, a Double
+    d.chkPlay[0].UserClick();
+    ASSERT_EQ(d.filVoice[0].List(2), "abcdefghijkl.vox");
+    d.filVoice[0].UserSelect(2);
+    EXPECT_EQ(d.filVoice[0].ListIndex(), -1);
+    ASSERT_EQ(
+        BoxTexts(),
+        (std::vector<std::string>{"Voice file abcdefghijkl.vox has more than 15 characters."}));
+    EXPECT_EQ(p.EventsOf("msgbox").back().fields["title"].Str(), "Say Number");
+    d.cmdOk.UserClick();  // no file now: refused as ever
+    EXPECT_TRUE(d.Loaded());
+    d.filVoice[0].UserSelect(3);
+    d.cmdOk.UserClick();
+  });
+  ASSERT_TRUE(kq::FuncOk);
+  EXPECT_EQ(std::string(kq::View(kq::WorkRecord.SayNumber.SayVoiceFile[0])), Field<16>("b.vox"));
+}
+
 TEST_F(PromptDialogTest, SayNumberPlayWithoutAVoicePathIsTakenBack) {
   Declare();
   DeclarePath(kq::kPathNumber, 0, "Digits");

@@ -97,6 +97,33 @@ TEST_F(TableDeclTest, OpensWithTheTablesAndTheFieldsOfTheFirst) {
   EXPECT_EQ(Tables(), (std::vector<std::string>{"Alpha: 2=Name/2 24=Count/0", "Zoo: 1=Count/0"}));
 }
 
+TEST_F(TableDeclTest, BlankVariableEntriesKeepTheLaterPositions) {
+  // A variable table with gaps, as older files have it: entries 1 and 2 are blank.
+  AddVariable("First", kq::kVarLong);
+  kq::SetField(kq::PrgHdr.Variable[3].VarRefName, "Fourth");
+  kq::PrgHdr.Variable[3].VarRefType = kq::kVarString;
+  kq::SetField(kq::PrgHdr.Variable[5].VarRefName, "Sixth");
+  kq::PrgHdr.Variable[5].VarRefType = kq::kVarDouble;
+  DeclareTable(0, "T");
+  Bind(0, 1, "Fourth");
+  Bind(0, 2, "First");
+  Bind(0, 3, "Sixth");
+  Define([&](kq::frmDefDBTbl& d) {
+    ASSERT_EQ(d.cboVariable[0].ListCount(), 7);
+    EXPECT_EQ(kq::RTrim(d.cboVariable[0].List(4)), "Fourth");
+    EXPECT_EQ(kq::RTrim(d.cboVariable[0].List(6)), "Sixth");
+    EXPECT_EQ(kq::RTrim(d.cboVariable[0].List(2)), "");
+    EXPECT_EQ(Bound(d), "1=4 2=1 3=6 ");
+    EXPECT_EQ(d.lstColumnVar.List(0).substr(0, 12), "004,001,006,");
+    // A blank item chosen for a field leaves it unbound.
+    d.lstVariable.RaiseDblClick();
+    d.cboVariable[1].UserSelect(3);
+    d.cmdAdd.UserClick();
+    d.cmdOk.UserClick();
+  });
+  EXPECT_EQ(Tables(), (std::vector<std::string>{"T: 1=Fourth/2 3=Sixth/1"}));
+}
+
 TEST_F(TableDeclTest, TablesBehindABlankFirstEntryAreNotLoaded) {
   AddVariable("Count", kq::kVarLong);
   DeclareTable(1, "Later");

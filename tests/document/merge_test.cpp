@@ -189,7 +189,7 @@ TEST_F(MergeTest, RefusalsInOrderLeaveTheDocument) {
   };
   const std::vector<Case> cases = {
       {[] { DeclareVariable(0, kVarString, "Name"); }, [] { DeclareVariable(5, kVarLong, "Name"); },
-       "Variable Name is defined as Long and String respectively.", "Variable Error"},
+       "Variable Name is defined as Long       and String     respectively.", "Variable Error"},
       {[] {
          for (int i = 0; i < 10; ++i) DeclareVariable(i, kVarLong, "P" + std::to_string(i));
        },

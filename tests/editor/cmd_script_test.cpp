@@ -62,6 +62,34 @@ TEST_F(CmdScript, AnAbsentSettingsFileIsAnEmptyStoreAndIsCreated) {
   EXPECT_NE(std::string::npos, Read("new.ini").find("SpeechAudioFormat=6\n"));
 }
 
+// The directory list of Convert moves the working folder; a settings file named relative
+// to the folder kqx started in is written there all the same.
+TEST_F(CmdScript, ARelativeSettingsFileIsWrittenWhereItWasNamed) {
+  fs::create_directories(dir_ / "elsewhere");
+  Write("rel.ini", "SpeechAudioFormat=3\n");
+  const std::string script = Write("r.kqs",
+                                   "frmEdit.mnuConvert.Click\n"
+                                   "  frmConvert.dirTarget.Path \"" +
+                                       (dir_ / "elsewhere").string() +
+                                       "\"\n"
+                                       "  frmConvert.cmdExit.Click\n"
+                                       "frmEdit.Close\n");
+  const fs::path started = fs::current_path();
+  fs::current_path(dir_);
+  const int status =
+      kqx::RunKqx({"script", script, "--settings", "rel.ini", "--home", dir_.string()}, out_, err_);
+  const fs::path ended = fs::current_path();
+  fs::current_path(started);
+  EXPECT_EQ(0, status) << err_.str();
+  EXPECT_EQ(ended, dir_ / "elsewhere");
+  EXPECT_FALSE(fs::exists(dir_ / "elsewhere" / "rel.ini"));
+  const std::string written = Read("rel.ini");
+  EXPECT_NE(std::string::npos, written.find("SpeechAudioFormat=3\n"));
+  EXPECT_NE(std::string::npos,
+            written.find("TargetConvertFileName=" + (dir_ / "elsewhere").string()));
+  EXPECT_EQ("", err_.str());
+}
+
 TEST_F(CmdScript, TheStatusOfTheScriptIsTheStatusOfKqx) {
   EXPECT_EQ(3, kqx::RunKqx({"script", Write("c.kqs", "frmEdit.lstNone.Click\n")}, out_, err_));
   const std::string settings = Write("bad.ini", "SpeechAudioFormat=4\n");

@@ -5,6 +5,7 @@
 
 #include "dialogs/frm_func.h"
 #include "dialogs/frm_remark.h"
+#include "document/functions.h"
 #include "document/state.h"
 #include "editor/settings.h"
 #include "tests/editor/editor_fixture.h"
@@ -400,6 +401,29 @@ TEST_F(EditorTest, TheInsertKeyWorksWhateverTheMenuSays) {
   EXPECT_EQ("0001\t\tRemark           \tsecond", f.lstEdit.List(1));
   EXPECT_EQ(1, f.lstEdit.ListIndex());
   EXPECT_EQ(2, PrgHdr.LineCount);
+}
+
+TEST_F(EditorTest, TheInsertKeyFillsTheStoresToTheirLastLine) {
+  FrmEdit& f = Start();
+  f.mnuFileItem[0].UserClick();
+  PutLines(kUserLines + 1);
+  for (ProgramLine& line : LineTable) line.LineFuncNo = static_cast<int16_t>(Fn::Remark);
+  f.lstEdit.UserSelect(3);
+  QueueRemarkLine(platform_, "ten thousand and one");
+  int key = ui::vbKeyInsert;
+  f.lstEdit.RaiseKeyDown(key);
+  ASSERT_EQ(kMaxLines, f.lstEdit.ListCount());
+  EXPECT_EQ(kMaxLines, PrgHdr.LineCount);
+  EXPECT_EQ("0003\t\tRemark           \tten thousand and one", f.lstEdit.List(3));
+  EXPECT_EQ("10000", f.lstEdit.List(kMaxLines - 1));
+  EXPECT_EQ(0, platform_.CountOf("beep"));
+  // No room for another: the key beeps and shows no dialog.
+  platform_.ClearEvents();
+  key = ui::vbKeyInsert;
+  f.lstEdit.RaiseKeyDown(key);
+  EXPECT_EQ(kMaxLines, f.lstEdit.ListCount());
+  EXPECT_EQ(1, platform_.CountOf("beep"));
+  EXPECT_EQ(0, platform_.CountOf("show"));
 }
 
 // Enter on the list modifies the line once, whether it arrives as the key going down or as

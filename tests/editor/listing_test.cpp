@@ -351,6 +351,18 @@ TEST_F(ListingTest, TextFileClosesEveryRowWithCarriageReturnAndLineFeed) {
   EXPECT_EQ(text.substr(text.size() - 4), "\r\n\r\n");
 }
 
+TEST_F(ListingTest, CallOutsUnfilledCaptionsComeOutAsBlanks) {
+  Rec r(5);
+  r.Label(0, "Busy").I32(112, 0).Label(16 * 5, "Five").I32(112 + 4 * 5, 7);
+  r.Label(16 * 6, "Six").I32(112 + 4 * 6, 0);
+  Add("", r.Var(148, kConstLong, "1"));
+  const std::string text = ListingText(kNow);
+  EXPECT_EQ(text.find('\0'), std::string::npos);
+  EXPECT_NE(text.find(In("BusyTone=   Busy -> 0000\r\n")), std::string::npos);
+  EXPECT_NE(text.find(In(std::string(9, ' ') + "   Five -> 0007\r\n")), std::string::npos);
+  EXPECT_NE(text.find(In(std::string(9, ' ') + "   Six -> 0000\r\n")), std::string::npos);
+}
+
 TEST_F(ListingTest, ListingFileNameLosesTheLastThreeCharacters) {
   EXPECT_EQ(ListingFileName("/a/app.kqx"), "/a/app.TXT");
   EXPECT_EQ(ListingFileName("/a/app"), "/a/TXT");

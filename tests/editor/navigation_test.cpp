@@ -3,6 +3,7 @@
 // the spare functions left out of Goto Function, and the dialogs' layouts.
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <functional>
 
 #include "document/state.h"
@@ -116,6 +117,33 @@ TEST_F(NavigationTest, FunctionDialogOffersOnlyUsedFunctions) {
                         f.cmdCancel.UserClick();
                       }));
   GotoCommand(2);
+}
+
+TEST_F(NavigationTest, LabelsThatFillTheirFieldAreListedWhole) {
+  // A file made elsewhere: a label of 16 characters with no NUL, and a Goto naming it in
+  // the same 16 bytes.
+  const std::string full = "ABCDEFGHIJKLMNOP";
+  Add("", Rec(13));
+  std::memcpy(LineTable[6].LineLabel, full.data(), 16);
+  Rec jump(10);
+  std::memcpy(jump.bytes.data(), full.data(), 16);
+  Add("", jump);  // 7
+  platform.QueueModal(
+      "frmLabel", As<frmLabel>([&](frmLabel& f) {
+        EXPECT_EQ(f.lstLabel.Items(), (std::vector<std::string>{full, "End", "Mid", "Top"}));
+        f.lstLabel.UserSelect(2);
+        f.cmdOk.UserClick();
+      }));
+  GotoCommand(1);
+  EXPECT_EQ(Selected(), std::vector<int>{2});
+  platform.QueueModal("frmGotoLabel", As<frmGotoLabel>([&](frmGotoLabel& f) {
+                        ASSERT_EQ(f.lstLabel.List(0), full);
+                        f.lstLabel.UserSelect(0);
+                        f.cmdOk.UserClick();
+                      }));
+  GotoCommand(6);
+  EXPECT_EQ(Selected(), std::vector<int>{7});
+  EXPECT_EQ(View(SearchLabel.LabelRefName), full);
 }
 
 TEST_F(NavigationTest, EveryDialogDeclaresItsLayout) {

@@ -5,15 +5,19 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <functional>
 #include <memory>
 
 #include <QTextBrowser>
@@ -22,6 +26,7 @@
 #include "dialogs/frm_def_var.h"
 #include "dialogs/frm_func.h"
 #include "dialogs/frm_goto.h"
+#include "dialogs/frm_remark.h"
 #include "document/header.h"
 #include "document/state.h"
 #include "document/text.h"
@@ -41,6 +46,45 @@ TEST_F(EditorWindowTest, StartsWithAnEmptyListAndTheSystemsTitle) {
   EXPECT_FALSE(action(form->mnuFileItem[2])->isEnabled());
   EXPECT_TRUE(action(form->mnuFileItem[0])->isEnabled());
   EXPECT_FALSE(action(form->mnuEditItem[0])->isEnabled());
+}
+
+// Every separator of every menu, the recent files' one included, is a line with no text.
+TEST_F(EditorWindowTest, SeparatorsAreLinesWithoutACaption) {
+  int separators = 0;
+  std::function<void(const QList<QAction*>&)> walk = [&](const QList<QAction*>& actions) {
+    for (QAction* a : actions) {
+      if (a->isSeparator()) {
+        ++separators;
+        EXPECT_TRUE(a->text().isEmpty()) << a->text().toStdString();
+      } else {
+        EXPECT_NE(a->text(), "-");
+      }
+      if (a->menu() != nullptr) walk(a->menu()->actions());
+    }
+  };
+  walk(window()->menuBar()->actions());
+  EXPECT_GE(separators, 3);
+}
+
+// A remark takes every character, the tab too: pasted, it is kept as typed.
+TEST_F(EditorWindowTest, PastedTabsStayInARemark) {
+  action(form->mnuFileItem[0])->trigger();  // New
+  PickFunction("Remark");
+  platform.QueueModal([&](QDialog& dialog, FormBinding& b) {
+    auto& d = static_cast<kq::frmRemark&>(b.form());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    auto* remark = qobject_cast<QLineEdit*>(b.WidgetOf(d.txtRemark));
+    ASSERT_NE(remark, nullptr);
+    remark->setFocus();
+    QApplication::clipboard()->setText(QStringLiteral("a\tb\nc"));
+    QTest::keySequence(remark, QKeySequence::Paste);
+    EXPECT_EQ(d.txtRemark.Text(), "a\tbc");
+    EXPECT_EQ(remark->text(), QStringLiteral("a\tbc"));
+    QTest::mouseClick(qobject_cast<QPushButton*>(b.WidgetOf(d.cmdOk)), Qt::LeftButton);
+  });
+  action(form->mnuEditItem[0])->trigger();
+  ASSERT_EQ(form->lstEdit.ListCount(), 1);
+  EXPECT_EQ(form->lstEdit.List(0), "0000\t\tRemark           \ta\tbc");
 }
 
 TEST_F(EditorWindowTest, BuildCompileSaveAndCloseAnApplication) {

@@ -174,6 +174,39 @@ TEST_F(PlatformTest, PrintingRowsAndPagesIntoAFile) {
   EXPECT_FALSE(platform.PrintDialog(r));
 }
 
+// Every copy ends its own document; each goes to the file the dialog chose, after the
+// copies before it, and the next dialog starts a file of its own.
+TEST_F(PlatformTest, EveryCopyGoesToTheChosenFile) {
+  QTemporaryDir dir;
+  auto pages = [](const QString& path) {
+    QFile f(path);
+    if (!f.open(QIODevice::ReadOnly)) return -1;
+    const QByteArray bytes = f.readAll();
+    return static_cast<int>(bytes.count("/Type /Page\n") + bytes.count("/Type /Page\r") +
+                            bytes.count("/Type /Page "));
+  };
+  const QString first = dir.path() + "/copies.pdf";
+  platform.SetPrintFile(first.toStdString());
+  platform.QueuePrint(ui::PrintDialogRequest{0, 0, 3, 0});
+  ui::PrintDialogRequest r;
+  ASSERT_TRUE(platform.PrintDialog(r));
+  for (int copy = 0; copy < r.copies; ++copy) {
+    platform.PrintRow("    page one");
+    platform.NewPage();
+    platform.PrintRow("    page two");
+    platform.EndDoc();
+    EXPECT_EQ(pages(first), 2 * (copy + 1));
+  }
+  const QString second = dir.path() + "/again.pdf";
+  platform.SetPrintFile(second.toStdString());
+  platform.QueuePrint(ui::PrintDialogRequest{0, 0, 1, 0});
+  ASSERT_TRUE(platform.PrintDialog(r));
+  platform.PrintRow("    alone");
+  platform.EndDoc();
+  EXPECT_EQ(pages(second), 1);
+  EXPECT_EQ(pages(first), 6);
+}
+
 TEST_F(PlatformTest, PrintDialogOffersThePagesAndReturnsTheChoice) {
   QTimer::singleShot(0, [] {
     auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());

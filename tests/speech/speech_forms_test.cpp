@@ -161,21 +161,29 @@ TEST_F(SpeechFormsTest, ConvertFollowsAVoicePathAndEndsOnFormatsWithoutExtension
   kq::SetField(entry.PathName, "Prompts");
   kq::SetField(entry.PathText, PathOf("dst/"));
   Tone("dst/x.wav");
+  Write("dst/a.vox", Bytes(8, 0x80));
+  Write("dst/b.vox", Bytes(8, 0x80));
+  Write("src/c.vox", Bytes(8, 0x80));
+  SetSetting("TargetConvertFileName", PathOf("src/c.vox"));
   Show<kq::frmConvert>([&](kq::frmConvert& f) {
+    EXPECT_EQ(f.filTarget.ListIndex(), 0);  // Load selects the file of the setting
     ASSERT_EQ(f.cboTargetPathVar.ListCount(), 2);
     f.cboTargetPathVar.UserSelect(1);
     EXPECT_EQ(f.dirTarget.Path(), PathOf("dst"));
+    // The voice path shows its files and selects none of them.
+    EXPECT_EQ(f.filTarget.Items(), (std::vector<std::string>{"a.vox", "b.vox"}));
+    EXPECT_EQ(f.filTarget.ListIndex(), -1);
     kq::SpeechAudioFormat = 4;  // Windows Wave has no target extension of its own
     f.dirSource.UserPath(PathOf("dst"));
     f.filSource.UserSelect(0);
     EXPECT_THROW(f.cmdConvert.UserClick(), ui::ProgramEnded);
   });
-  EXPECT_EQ(ui::LastProgramError(), "Illegal speech format = 4 in GetSpeechFileExt.");
+  EXPECT_EQ(ui::LastProgramError(), "Illegal speech format =  4 in GetSpeechFileExt.");
   kq::SpeechAudioFormat = 5;
   kq::frmConvert form;
   p.QueueModal("frmConvert", [](ui::Form&) {});
   EXPECT_THROW(form.ShowModal(), ui::ProgramEnded);
-  EXPECT_EQ(ui::LastProgramError(), "Illegal speech format index = 5");
+  EXPECT_EQ(ui::LastProgramError(), "Illegal speech format index =  5");
 }
 
 TEST_F(SpeechFormsTest, RecordingOpensTemplatesAndReadsTheFormatChunk) {
@@ -284,7 +292,7 @@ TEST(SpeechFormats, GetSpeechFileExtFollowsTheMenuAndRefusesWave) {
   } catch (const ui::ProgramEnded& e) {
     error = e.what();
   }
-  EXPECT_EQ(error, "Illegal speech format = 4 in GetSpeechFileExt.");
+  EXPECT_EQ(error, "Illegal speech format =  4 in GetSpeechFileExt.");
   kq::SpeechAudioFormat = saved;
   ui::SetPlatform(nullptr);
 }

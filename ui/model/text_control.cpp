@@ -30,7 +30,8 @@ bool TextState::Insert(int keyAscii) {
     selLength_ = 0;
     return true;
   }
-  if (keyAscii < 32 || keyAscii > 255) return false;  // control keys put in nothing
+  // Control keys put in nothing, except a tab, which a field without a filter keeps.
+  if ((keyAscii < 32 && keyAscii != '\t') || keyAscii > 255) return false;
   const int size = static_cast<int>(text_.size());
   if (maxLength_ > 0 && size - selLength_ >= maxLength_) return false;
   text_.replace(selStart_, selLength_, 1, static_cast<char>(keyAscii));

@@ -56,7 +56,9 @@ void ControlBinding::TypeText(const QString& text) {
   for (QChar c : text) {
     if (!attached_ || !control_.Usable()) return;
     const int code = CodeOf(c);
-    if (code < 32) continue;  // line ends and characters outside the code page
+    // Line ends, other control characters and characters outside the code page are no
+    // keys to type; a tab is one, and the control's filter decides whether it stays.
+    if (code < 32 && code != '\t') continue;
     control_.UserKey(code);
   }
 }

@@ -44,8 +44,9 @@ void MenuBinding::Sync(const Change& change) {
     default:
       break;
   }
+  // A separator is a line alone: its "-" caption is the model's mark, not a text to show.
   action_->setSeparator(menu_.IsSeparator());
-  action_->setText(ToQt(menu_.Caption()));
+  action_->setText(menu_.IsSeparator() ? QString() : ToQt(menu_.Caption()));
   action_->setEnabled(menu_.Enabled());
   action_->setVisible(menu_.Visible());
   action_->setCheckable(menu_.Checked());

@@ -1,6 +1,7 @@
 #include "ui/qt/print_job.h"
 
 #include <QFontMetrics>
+#include <QPainter>
 
 namespace ui::qt {
 
@@ -10,38 +11,51 @@ PrintJob::PrintJob() : printer_(QPrinter::HighResolution) {
   font_.setFixedPitch(true);
 }
 
-bool PrintJob::Begin() {
-  if (painter_.isActive()) return true;
-  if (failed_) return false;
-  if (!painter_.begin(&printer_)) {
-    failed_ = true;  // printing ends without a word, as the listing's printing does
-    return false;
-  }
-  painter_.setFont(font_);
-  y_ = 0;
-  pages_ = 1;
-  return true;
+PrintJob::~PrintJob() {
+  End();
 }
 
 void PrintJob::Row(const QString& row) {
-  if (!Begin()) return;
-  const QFontMetrics fm(painter_.font(), &printer_);
-  const int height = printer_.pageLayout().paintRectPixels(printer_.resolution()).height();
-  if (y_ + fm.height() > height) NewPage();  // the printer runs onto a new sheet
-  painter_.drawText(0, y_ + fm.ascent(), row);
-  y_ += fm.lineSpacing();
-  ++rows_;
+  document_.emplace_back(row);
 }
 
 void PrintJob::NewPage() {
-  if (!Begin()) return;
-  printer_.newPage();
-  y_ = 0;
-  ++pages_;
+  document_.emplace_back(std::nullopt);
 }
 
 void PrintJob::End() {
-  if (painter_.isActive()) painter_.end();
+  if (document_.empty()) return;
+  if (printer_.outputFormat() == QPrinter::PdfFormat) {
+    if (!written_.empty()) written_.emplace_back(std::nullopt);
+    written_.insert(written_.end(), document_.begin(), document_.end());
+    Render(written_);
+  } else {
+    Render(document_);
+  }
+  document_.clear();
+}
+
+void PrintJob::Render(const std::vector<Item>& items) {
+  if (failed_) return;
+  QPainter painter;
+  if (!painter.begin(&printer_)) {
+    failed_ = true;  // printing ends without a word, as the listing's printing does
+    return;
+  }
+  painter.setFont(font_);
+  const QFontMetrics fm(painter.font(), &printer_);
+  const int height = printer_.pageLayout().paintRectPixels(printer_.resolution()).height();
+  int y = 0;
+  for (const Item& item : items) {
+    if (!item || y + fm.height() > height) {  // a new page, asked for or where the sheet ends
+      printer_.newPage();
+      y = 0;
+      if (!item) continue;
+    }
+    painter.drawText(0, y + fm.ascent(), *item);
+    y += fm.lineSpacing();
+  }
+  painter.end();
 }
 
 }  // namespace ui::qt

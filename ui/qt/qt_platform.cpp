@@ -362,9 +362,8 @@ void QtPlatform::NewPage() {
 }
 
 void QtPlatform::EndDoc() {
-  if (!print_) return;
-  print_->End();
-  print_.reset();
+  // The job stays until the next print dialog: a next copy goes to the same printer.
+  if (print_) print_->End();
 }
 
 int QtPlatform::ScreenWidth() const {
