@@ -1,6 +1,6 @@
 #include "ui/headless/script_runner.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -26,18 +26,11 @@ struct ScriptError {
   std::string message;
 };
 
-// Why a person could not use the control, or empty when they could.
-std::string RefusalOf(const Control& c) {
-  if (c.Usable()) return {};
-  if (!c.Enabled()) return ControlLabel(c) + " is disabled";
-  if (!c.Visible()) return ControlLabel(c) + " is not visible";
-  if (c.Kind() == ControlKind::Menu) {
-    const auto& m = static_cast<const Menu&>(c);
-    if (m.IsSeparator()) return ControlLabel(c) + " is a separator";
-    return ControlLabel(c) + " is under a menu that is disabled";
-  }
-  return ControlLabel(c) + " is in a frame that is disabled";
-}
+// The script does not fit what the program did: the run stops with exit status 4.
+struct ScriptMismatch {
+  int line;
+  std::string message;
+};
 
 class Runner {
  public:
@@ -49,10 +42,13 @@ class Runner {
     // A byte order mark that an editor put in front of the first line is not part of it.
     if (!lines_.empty() && lines_[0].rfind("\xEF\xBB\xBF", 0) == 0) lines_[0].erase(0, 3);
     p_.modalDriver = [this](Form& form) { RunUntilUnloaded(&form); };
+    const bool wasStrict = p_.strictAnswers;
+    p_.strictAnswers = true;
     int status = kScriptOk;
     try {
       if (hooks_.start) hooks_.start();
       RunUntilUnloaded(nullptr);
+      ExpectFileRepliesTaken(awaiting_, 0);  // none left at the end either
     } catch (const ProgramEnded& e) {
       Json j;
       j.Set("event", "programend");
@@ -65,7 +61,14 @@ class Runner {
     } catch (const ModalNotDriven& e) {
       Error(current_, e.what());
       status = kScriptWrong;
+    } catch (const ScriptMismatch& e) {
+      Error(e.line, e.message);
+      status = kScriptMismatch;
+    } catch (const ReplyMismatch& e) {
+      Error(e.line, e.what());
+      status = kScriptMismatch;
     }
+    p_.strictAnswers = wasStrict;
     p_.modalDriver = nullptr;
     return status;
   }
@@ -104,6 +107,22 @@ class Runner {
   }
 
   [[noreturn]] void Wrong(const std::string& message) { throw ScriptError{current_, message}; }
+  [[noreturn]] void Mismatch(int line, const std::string& message) {
+    throw ScriptMismatch{line, message};
+  }
+
+  // The file replies queued for a line must have been taken by a file dialog when it is
+  // done: a reply left over would answer some later dialog by a guess.
+  void ExpectFileRepliesTaken(const std::vector<int>& queuedAt, int actingLine) {
+    if (queuedAt.empty()) return;
+    const std::vector<int> pending = p_.PendingFileLines();
+    for (int line : queuedAt) {
+      if (std::find(pending.begin(), pending.end(), line) == pending.end()) continue;
+      Mismatch(line, actingLine > 0 ? "no file dialog came for this reply (line " +
+                                          std::to_string(actingLine) + " opened none)"
+                                    : "no file dialog came for this reply");
+    }
+  }
 
   void RunLine(const std::string& raw) {
     std::string_view line(raw);
@@ -125,7 +144,11 @@ class Runner {
     if (head == "setting") return Setting(t);
     if (head == "show") return Show(t);
     if (head == "dump") return Dump(t);
+    // The file replies queued so far are for this line and the dialogs it opens.
+    std::vector<int> queuedAt;
+    queuedAt.swap(awaiting_);
     Act(t);
+    ExpectFileRepliesTaken(queuedAt, current_);
   }
 
   void Arity(const std::vector<Token>& t, size_t n) {
@@ -136,18 +159,19 @@ class Runner {
     Arity(t, 2);
     const auto code = AnswerCode(t[1].text);
     if (!code || t[1].quoted) Wrong("unknown answer " + t[1].text);
-    p_.QueueAnswer(*code);
+    p_.QueueAnswer(*code, current_);
   }
 
   void File(const std::vector<Token>& t) {
     Arity(t, 2);
     if (!t[1].quoted && t[1].text == "cancel") {
-      p_.QueueFile(std::nullopt);
+      p_.QueueFile(std::nullopt, current_);
     } else if (t[1].quoted) {
-      p_.QueueFile(t[1].text);
+      p_.QueueFile(t[1].text, current_);
     } else {
       Wrong("file takes a quoted path or cancel");
     }
+    awaiting_.push_back(current_);
   }
 
   void PrintDialog(const std::vector<Token>& t) {
@@ -209,7 +233,7 @@ class Runner {
     }
     if (form == nullptr) return Refused("form " + target->form + " is not shown");
     Control* c = form->FindControl(target->control, target->index);
-    if (c == nullptr) Wrong("unknown control " + t[1].text);
+    if (c == nullptr) Mismatch(current_, "unknown control " + t[1].text);
     p_.Record(ControlState(*c));
   }
 
@@ -249,7 +273,7 @@ class Runner {
     Form* form = ActiveForm(target->form);
     if (form == nullptr) return;
     Control* c = form->FindControl(target->control, target->index);
-    if (c == nullptr) Wrong("unknown control " + head.substr(0, dot));
+    if (c == nullptr) Mismatch(current_, "unknown control " + head.substr(0, dot));
     const std::string refusal = RefusalOf(*c);
     if (!refusal.empty()) return Refused(refusal);
     Perform(*form, *c, action, t);
@@ -348,7 +372,12 @@ class Runner {
         NotFor(c, action);
       }
     } else if (action == "Path" && IsDiskList(kind)) {
-      ChoosePath(c, StringArg(t, action));
+      const std::string& folder = StringArg(t, action);
+      // A folder that cannot be read is the system's run-time error, which no handler of
+      // the person's own stands to catch: the line reports it, the control stays as it was.
+      if (const int error = ChooseFolder(c, folder)) {
+        Refused("run-time error " + std::to_string(error) + " on " + folder);
+      }
     } else if (action == "Press" && kind == ControlKind::MediaControl) {
       Arity(t, 2);
       const int b = MediaButtonOfName(t[1].text);
@@ -363,30 +392,6 @@ class Runner {
     } else {
       Wrong("unknown action " + action);
     }
-  }
-
-  static bool IsDiskList(ControlKind kind) {
-    return kind == ControlKind::DriveListBox || kind == ControlKind::DirListBox ||
-           kind == ControlKind::FileListBox;
-  }
-
-  // A person points a drive, directory or file list at a folder. A folder that cannot be
-  // read is the system's run-time error, which no handler of the person's own stands to
-  // catch: the line reports it and the control stays as it was.
-  void ChoosePath(Control& c, const std::string& folder) {
-    int error = 0;
-    switch (c.Kind()) {
-      case ControlKind::DriveListBox:
-        error = static_cast<DriveListBox&>(c).UserPath(folder);
-        break;
-      case ControlKind::DirListBox:
-        error = static_cast<DirListBox&>(c).UserPath(folder);
-        break;
-      default:
-        error = static_cast<FileListBox&>(c).UserPath(folder);
-        break;
-    }
-    if (error != 0) Refused("run-time error " + std::to_string(error) + " on " + folder);
   }
 
   void Select(Control& c, const Token& arg) {
@@ -443,7 +448,8 @@ class Runner {
   const ScriptHooks& hooks_;
   std::vector<std::string> lines_;
   size_t next_ = 0;
-  int current_ = 0;  // the line being run, from 1
+  int current_ = 0;            // the line being run, from 1
+  std::vector<int> awaiting_;  // file replies queued since the last acting line
 };
 
 }  // namespace

@@ -105,4 +105,33 @@ Json FormState(const Form& f) {
   return j;
 }
 
+// Why a person could not use the control, or empty when they could.
+std::string RefusalOf(const Control& c) {
+  if (c.Usable()) return {};
+  if (!c.Enabled()) return ControlLabel(c) + " is disabled";
+  if (!c.Visible()) return ControlLabel(c) + " is not visible";
+  if (c.Kind() == ControlKind::Menu) {
+    const auto& m = static_cast<const Menu&>(c);
+    if (m.IsSeparator()) return ControlLabel(c) + " is a separator";
+    return ControlLabel(c) + " is under a menu that is disabled";
+  }
+  return ControlLabel(c) + " is in a frame that is disabled";
+}
+
+bool IsDiskList(ControlKind kind) {
+  return kind == ControlKind::DriveListBox || kind == ControlKind::DirListBox ||
+         kind == ControlKind::FileListBox;
+}
+
+int ChooseFolder(Control& c, const std::string& folder) {
+  switch (c.Kind()) {
+    case ControlKind::DriveListBox:
+      return static_cast<DriveListBox&>(c).UserPath(folder);
+    case ControlKind::DirListBox:
+      return static_cast<DirListBox&>(c).UserPath(folder);
+    default:
+      return static_cast<FileListBox&>(c).UserPath(folder);
+  }
+}
+
 }  // namespace ui
