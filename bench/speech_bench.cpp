@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "speech/codecs.h"
-#include "speech/convert.h"
-#include "speech/wave_file.h"
+#include "speech/codec/codecs.h"
+#include "speech/codec/convert.h"
+#include "speech/codec/wave_file.h"
 
 namespace {
 

@@ -8,7 +8,7 @@ const Command kCommands[] = {
     {"resave", "IN OUT", CmdResave},
     {"compile", "IN [-o OUT]", CmdCompile},
     {"list", "IN [-o OUT] [--now \"YYYY-MM-DD HH:MM:SS\"]", CmdList},
-    {"convert", "IN OUT [--format N]", CmdConvert},
+    {"convert", "IN OUT [--format N] | IN... --to FORMAT --out DIR [--jobs N]", CmdConvert},
     {"script", "FILE|- [--settings FILE] [--data DIR] [--home DIR] [--screen W H]", CmdScript},
     {nullptr, nullptr, nullptr},
 };

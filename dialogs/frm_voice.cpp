@@ -6,7 +6,7 @@
 #include "document/header.h"
 #include "document/state.h"
 #include "document/text.h"
-#include "speech/convert.h"
+#include "speech/codec/convert.h"
 #include "ui/platform/disk.h"
 #include "ui/platform/platform.h"
 

@@ -11,16 +11,11 @@
 #include <cstdio>
 
 #include "document/disk_error.h"
+#include "ui/platform/durable_file.h"
 
 namespace kq {
 
 namespace {
-
-struct WriteFault {
-  int errnoValue = 0;
-  size_t afterBytes = 0;
-  int times = 0;
-} g_fault;
 
 struct ReadFault {
   int errnoValue = 0;
@@ -29,30 +24,6 @@ struct ReadFault {
 
 int Fail() {
   return SystemErrorNumber(errno);
-}
-
-// Writes all bytes; -1 with errno set on failure.
-int WriteAll(int fd, const uint8_t* data, size_t size) {
-  size_t limit = size;
-  bool faulty = false;
-  if (g_fault.times > 0) {
-    --g_fault.times;
-    if (g_fault.afterBytes < size) limit = g_fault.afterBytes, faulty = true;
-  }
-  size_t done = 0;
-  while (done < limit) {
-    const ssize_t n = ::write(fd, data + done, limit - done);
-    if (n < 0) {
-      if (errno == EINTR) continue;
-      return -1;
-    }
-    done += static_cast<size_t>(n);
-  }
-  if (faulty) {
-    errno = g_fault.errnoValue;
-    return -1;
-  }
-  return 0;
 }
 
 }  // namespace
@@ -100,38 +71,12 @@ int ReadWholeFile(const std::string& name, std::vector<uint8_t>& bytes, size_t l
 
 int WriteWholeFile(const std::string& name, const uint8_t* data, size_t size) {
   const std::string path = ui::Cp1252ToUtf8(name);  // file names on disk are UTF-8
-  const std::string temp = path + ".kqx-save";
-  struct stat old {};
-  const bool existed = ::stat(path.c_str(), &old) == 0;
-  // A file marked read-only is not replaced: the rename would get past the mark that
-  // writing into the file itself would respect.
-  if (existed && S_ISREG(old.st_mode) && (old.st_mode & 0222) == 0) {
-    return SystemErrorNumber(EACCES);
-  }
-  const int fd = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-  if (fd < 0) return Fail();
-  if (WriteAll(fd, data, size) != 0) {
-    const int err = Fail();
-    ::close(fd);
-    ::unlink(temp.c_str());
-    return err;
-  }
-  if (existed) (void)::fchmod(fd, old.st_mode & 07777);
-  if (::close(fd) != 0) {
-    const int err = Fail();
-    ::unlink(temp.c_str());
-    return err;
-  }
-  if (::rename(temp.c_str(), path.c_str()) != 0) {
-    const int err = Fail();
-    ::unlink(temp.c_str());
-    return err;
-  }
-  return 0;
+  const int err = ui::WriteFileDurably(path, data, size);
+  return err == 0 ? 0 : SystemErrorNumber(err);
 }
 
 void InjectWriteFault(int errnoValue, size_t afterBytes, int times) {
-  g_fault = {errnoValue, afterBytes, times};
+  ui::InjectDurableWriteFault(errnoValue, afterBytes, times);
 }
 
 void InjectReadFault(int errnoValue, int times) {

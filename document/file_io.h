@@ -13,10 +13,10 @@ namespace kq {
 // empty, as the binary open of the system made it, and reads as 0 bytes.
 int ReadWholeFile(const std::string& path, std::vector<uint8_t>& bytes, size_t limit = SIZE_MAX);
 
-// Writes the bytes to a temporary name beside the file, then renames it over the file,
-// so that a failing write leaves the last good file in place. The file keeps its
-// permissions when it existed; a file without any write permission is refused as
-// permission denied.
+// Writes the bytes durably (ui/platform/durable_file.h): to a temporary name beside the
+// file, flushed, renamed over the file and the folder flushed, so that a failing write
+// leaves the last good file in place. The file keeps its permissions when it existed; a
+// file without any write permission is refused as permission denied.
 int WriteWholeFile(const std::string& path, const uint8_t* data, size_t size);
 
 // For tests: the next `times` writes fail with `errnoValue` once `afterBytes` bytes of

@@ -1,9 +1,9 @@
 #include "editor/tool_forms.h"
 
-#include "speech/frm_about.h"
-#include "speech/frm_convert.h"
-#include "speech/frm_listen.h"
-#include "speech/frm_recording_wave.h"
+#include "speech/forms/frm_about.h"
+#include "speech/forms/frm_convert.h"
+#include "speech/forms/frm_listen.h"
+#include "speech/forms/frm_recording_wave.h"
 
 namespace kq {
 

@@ -7,9 +7,9 @@
 #include <span>
 #include <vector>
 
-#include "speech/codecs.h"
-#include "speech/resample.h"
-#include "speech/wave_file.h"
+#include "speech/codec/codecs.h"
+#include "speech/codec/resample.h"
+#include "speech/codec/wave_file.h"
 
 using namespace kq::speech;
 

@@ -8,7 +8,7 @@
 #include <filesystem>
 
 #include "editor/tool_forms.h"
-#include "speech/frm_recording_wave.h"
+#include "speech/forms/frm_recording_wave.h"
 #include "ui/qt/form_binding.h"
 #include "ui/qt/qt_platform.h"
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "speech/codecs.h"
-#include "speech/resample.h"
+#include "speech/codec/codecs.h"
+#include "speech/codec/resample.h"
 #include "tests/speech/speech_fixture.h"
 
 namespace {

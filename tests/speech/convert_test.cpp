@@ -2,12 +2,10 @@
 
 #include <filesystem>
 
-#include "document/state.h"
-#include "speech/codecs.h"
-#include "speech/convert.h"
-#include "speech/wave_file.h"
+#include "speech/codec/codecs.h"
+#include "speech/codec/convert.h"
+#include "speech/codec/wave_file.h"
 #include "tests/speech/speech_fixture.h"
-#include "ui/headless/headless_platform.h"
 
 namespace {
 
@@ -184,24 +182,6 @@ TEST(SpeechFormats, ExtensionsCaptionsAndTheReverseMap) {
   EXPECT_TRUE(SpeechFileExt(5).empty());
   EXPECT_EQ(ConvertCaption(kOki24), "Convert Speech Files From WAVE To OKI 24K ADPCM");
   EXPECT_TRUE(ConvertCaption(5).empty());
-}
-
-TEST(SpeechFormats, GetSpeechFileExtFollowsTheMenuAndRefusesWave) {
-  ui::HeadlessPlatform platform;
-  ui::SetPlatform(&platform);
-  const int16_t saved = kq::SpeechAudioFormat;
-  kq::SpeechAudioFormat = kRhetorex32;
-  EXPECT_EQ(GetSpeechFileExt(), "R32");
-  kq::SpeechAudioFormat = kWave;
-  std::string error;
-  try {
-    GetSpeechFileExt();
-  } catch (const ui::ProgramEnded& e) {
-    error = e.what();
-  }
-  EXPECT_EQ(error, "Illegal speech format = 4 in GetSpeechFileExt.");
-  kq::SpeechAudioFormat = saved;
-  ui::SetPlatform(nullptr);
 }
 
 }  // namespace

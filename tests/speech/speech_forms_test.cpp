@@ -6,12 +6,14 @@
 #include "document/document.h"
 #include "document/state.h"
 #include "document/text.h"
-#include "speech/convert.h"
-#include "speech/frm_about.h"
-#include "speech/frm_convert.h"
-#include "speech/frm_listen.h"
-#include "speech/frm_recording_wave.h"
-#include "speech/system_info.h"
+#include "speech/codec/codecs.h"
+#include "speech/codec/convert.h"
+#include "speech/forms/frm_about.h"
+#include "speech/forms/frm_convert.h"
+#include "speech/forms/frm_listen.h"
+#include "speech/forms/frm_recording_wave.h"
+#include "speech/forms/speech_forms.h"
+#include "speech/forms/system_info.h"
 #include "tests/speech/speech_fixture.h"
 #include "ui/headless/headless_platform.h"
 
@@ -267,6 +269,24 @@ TEST_F(SpeechFormsTest, AboutPlaysItsSoundAndTheTildeTogglesTheSpareFunctions) {
             (std::vector<std::string>{"Open " + about, "Play " + about, "Close " + about}));
   EXPECT_EQ(kq::FormatThousands(1234567), "1,234,567");
   EXPECT_EQ(kq::FormatThousands(0), "");
+}
+
+TEST(SpeechFormats, GetSpeechFileExtFollowsTheMenuAndRefusesWave) {
+  ui::HeadlessPlatform platform;
+  ui::SetPlatform(&platform);
+  const int16_t saved = kq::SpeechAudioFormat;
+  kq::SpeechAudioFormat = kq::speech::kRhetorex32;
+  EXPECT_EQ(kq::speech::GetSpeechFileExt(), "R32");
+  kq::SpeechAudioFormat = kq::speech::kWave;
+  std::string error;
+  try {
+    kq::speech::GetSpeechFileExt();
+  } catch (const ui::ProgramEnded& e) {
+    error = e.what();
+  }
+  EXPECT_EQ(error, "Illegal speech format = 4 in GetSpeechFileExt.");
+  kq::SpeechAudioFormat = saved;
+  ui::SetPlatform(nullptr);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "speech/frm_recording_wave.h"
+#include "speech/forms/frm_recording_wave.h"
 
 #include <cstdio>
 #include <cstring>
@@ -6,7 +6,7 @@
 #include <fstream>
 
 #include "dialogs/services.h"
-#include "speech/speech_forms.h"
+#include "speech/forms/speech_forms.h"
 #include "ui/platform/platform.h"
 
 namespace kq {

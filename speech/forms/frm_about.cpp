@@ -1,10 +1,10 @@
-#include "speech/frm_about.h"
+#include "speech/forms/frm_about.h"
 
 #include "dialogs/services.h"
 #include "document/kqx_format.h"
 #include "document/state.h"
-#include "speech/speech_forms.h"
-#include "speech/system_info.h"
+#include "speech/forms/speech_forms.h"
+#include "speech/forms/system_info.h"
 
 namespace kq {
 

@@ -1,8 +1,8 @@
-#include "speech/frm_listen.h"
+#include "speech/forms/frm_listen.h"
 
 #include "dialogs/services.h"
-#include "speech/convert.h"
-#include "speech/speech_forms.h"
+#include "speech/codec/convert.h"
+#include "speech/forms/speech_forms.h"
 
 namespace kq {
 

@@ -1,11 +1,11 @@
-#include "speech/frm_convert.h"
+#include "speech/forms/frm_convert.h"
 
 #include "dialogs/services.h"
 #include "document/header.h"
 #include "document/state.h"
 #include "document/text.h"
-#include "speech/convert.h"
-#include "speech/speech_forms.h"
+#include "speech/codec/convert.h"
+#include "speech/forms/speech_forms.h"
 #include "ui/platform/platform.h"
 
 namespace kq {

@@ -1,4 +1,4 @@
-#include "speech/codecs.h"
+#include "speech/codec/codecs.h"
 
 #include <spandsp/telephony.h>
 // telephony.h first
@@ -36,6 +36,10 @@ int SamplesPerBlock(int format) {
     default:
       return 1;
   }
+}
+
+bool IsAdpcm(int format) {
+  return format == kRhetorex32 || format == kRhetorex24 || format == kOki32 || format == kOki24;
 }
 
 int CodeBits(int format) {
@@ -158,6 +162,112 @@ std::vector<int16_t> Decode(int format, std::span<const uint8_t> bytes) {
     default:
       return out;
   }
+}
+
+uint64_t DecodedLength(int format, uint64_t bytes) {
+  switch (format) {
+    case kULaw:
+    case kALaw:
+      return bytes;
+    case kLinear:
+      return bytes / 2;
+    case kRhetorex24:
+      return bytes * 8 / 3;
+    case kRhetorex32:
+    case kOki32:
+    case kOki24:
+      return bytes * 2;
+    default:
+      return 0;
+  }
+}
+
+struct StreamEncoder::Coder : AdpcmState {
+  using AdpcmState::AdpcmState;
+};
+
+StreamEncoder::StreamEncoder(int format) : format_(format) {
+  if (IsAdpcm(format)) coder_ = std::make_unique<Coder>(format);
+}
+
+StreamEncoder::~StreamEncoder() = default;
+
+void StreamEncoder::Encode(std::span<const int16_t> samples, std::vector<uint8_t>& out) {
+  if (!coder_) {
+    const std::vector<uint8_t> bytes = speech::Encode(format_, samples);
+    out.insert(out.end(), bytes.begin(), bytes.end());
+    return;
+  }
+  const auto block = static_cast<size_t>(SamplesPerBlock(format_));
+  const auto code = [&](const int16_t* from, size_t n) {
+    const size_t base = out.size();
+    out.resize(base + n * static_cast<size_t>(CodeBits(format_)) / 8 + 1);
+    size_t written = 0;
+    for (size_t at = 0; at < n; at += kPiece) {  // pieces of whole blocks
+      const int len = static_cast<int>(std::min(kPiece, n - at));
+      uint8_t* to = out.data() + base + written;
+      written += static_cast<size_t>(
+          coder_->oki ? oki_adpcm_encode(coder_->okiCoder.get(), to, from + at, len)
+                      : g726_encode(coder_->g726.get(), to, from + at, len));
+    }
+    out.resize(base + written);
+  };
+  size_t at = 0;
+  if (!pending_.empty()) {
+    const size_t take = std::min(block - pending_.size(), samples.size());
+    pending_.insert(pending_.end(), samples.begin(), samples.begin() + static_cast<long>(take));
+    at = take;
+    if (pending_.size() < block) return;
+    code(pending_.data(), pending_.size());
+    pending_.clear();
+  }
+  const size_t whole = (samples.size() - at) / block * block;
+  code(samples.data() + at, whole);
+  pending_.assign(samples.begin() + static_cast<long>(at + whole), samples.end());
+}
+
+void StreamEncoder::Finish(std::vector<uint8_t>& out) {
+  if (!coder_ || pending_.empty()) return;
+  pending_.resize(static_cast<size_t>(SamplesPerBlock(format_)), 0);
+  const std::vector<int16_t> last = std::move(pending_);
+  pending_.clear();
+  Encode(last, out);
+}
+
+struct StreamDecoder::Coder : AdpcmState {
+  using AdpcmState::AdpcmState;
+};
+
+StreamDecoder::StreamDecoder(int format) : format_(format) {
+  if (IsAdpcm(format)) coder_ = std::make_unique<Coder>(format);
+}
+
+StreamDecoder::~StreamDecoder() = default;
+
+void StreamDecoder::Decode(std::span<const uint8_t> bytes, std::vector<int16_t>& out) {
+  if (coder_) {
+    const size_t base = out.size();
+    out.resize(base + bytes.size() * 8 / static_cast<size_t>(CodeBits(format_)) + 8);
+    size_t made = 0;
+    for (size_t at = 0; at < bytes.size(); at += kPiece) {
+      const int len = static_cast<int>(std::min(kPiece, bytes.size() - at));
+      made += static_cast<size_t>(
+          coder_->oki
+              ? oki_adpcm_decode(coder_->okiCoder.get(), out.data() + base + made,
+                                 bytes.data() + at, len)
+              : g726_decode(coder_->g726.get(), out.data() + base + made, bytes.data() + at, len));
+    }
+    out.resize(base + made);
+    return;
+  }
+  if (format_ == kLinear && pendingByte_ >= 0 && !bytes.empty()) {
+    out.push_back(static_cast<int16_t>(pendingByte_ | (bytes[0] << 8)));
+    pendingByte_ = -1;
+    bytes = bytes.subspan(1);
+  }
+  const std::vector<int16_t> samples = speech::Decode(format_, bytes);
+  out.insert(out.end(), samples.begin(), samples.end());
+  if (format_ == kLinear && bytes.size() % 2 == 1) pendingByte_ = bytes.back();
 }
 
 }  // namespace kq::speech

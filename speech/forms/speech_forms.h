@@ -54,4 +54,10 @@ void PlayWave(ui::MMControl& media, const std::string& fileName);
 void PlaySpeechFile(ui::MMControl& media, const ui::FileListBox& files,
                     const std::string& noSelectionText, const std::string& tempName);
 
+namespace speech {
+// The extension of the application's speech format (SpeechAudioFormat). A format without
+// one is the program error "Illegal speech format = {n} in GetSpeechFileExt.".
+std::string GetSpeechFileExt();
+}  // namespace speech
+
 }  // namespace kq

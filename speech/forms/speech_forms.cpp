@@ -1,11 +1,12 @@
-#include "speech/speech_forms.h"
+#include "speech/forms/speech_forms.h"
 
 #include <filesystem>
 
 #include "dialogs/services.h"
 #include "document/disk_error.h"
 #include "document/state.h"
-#include "speech/convert.h"
+#include "document/text.h"
+#include "speech/codec/convert.h"
 #include "ui/platform/disk.h"
 #include "ui/platform/platform.h"
 
@@ -120,6 +121,15 @@ void PlaySpeechFile(ui::MMControl& media, const ui::FileListBox& files,
                                    temp.c_str(), kWaveFormat, kRate));
   }
   PlayWave(media, temp);
+}
+
+std::string speech::GetSpeechFileExt() {
+  const std::string_view ext = SpeechFileExt(SpeechAudioFormat);
+  if (ext.empty()) {
+    ui::ProgramError("Illegal speech format =" + Str(int64_t{SpeechAudioFormat}) +
+                     " in GetSpeechFileExt.");
+  }
+  return std::string(ext);
 }
 
 }  // namespace kq

@@ -1,4 +1,4 @@
-#include "speech/system_info.h"
+#include "speech/forms/system_info.h"
 
 #include <fstream>
 #include <map>
