@@ -7,7 +7,8 @@ out=$(mktemp -d)
 trap 'rm -rf "$out"' EXIT
 cmake -S . -B "$out" -G Ninja -DKQ_BUILD_TESTS=OFF -DKQ_BUILD_BENCH=OFF -DKQ_BUILD_FUZZ=OFF \
   --graphviz="$out/layers.dot" > /dev/null
-# The graph is drawn bottom-up: the lowest layer at the bottom.
-sed -e 's/^digraph "\(.*\)" {$/digraph "\1" {\n  rankdir = BT;/' "$out/layers.dot" > docs/layers.dot
+# Each program above what it links, the lowest layer at the bottom; the legend of target
+# kinds is left out.
+sed -e '/^subgraph clusterLegend {$/,/^}$/d' "$out/layers.dot" > docs/layers.dot
 dot -Tsvg docs/layers.dot -o docs/layers.svg
 echo "docs/layers.svg"
