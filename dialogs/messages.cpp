@@ -1,16 +1,15 @@
 // The messages of the audio conversion's return codes, and the refusal of a name too long
 // for its field.
+#include "dialogs/convert_message.h"
 #include "dialogs/services.h"
 #include "document/text.h"
 #include "ui/platform/platform.h"
 
 namespace kq {
 
-void ConvertMessage(int returnCode) {
+std::string ConvertMessageText(int returnCode) {
   std::string text;
   switch (returnCode) {
-    case 0:
-      return;
     case 1:
       text = "No input filename specified.";
       break;
@@ -75,8 +74,17 @@ void ConvertMessage(int returnCode) {
       text = "Illegal Wave file: No data size.";
       break;
     default:
-      ui::ProgramError("Illegal return value " + Str(int64_t{returnCode}) +
-                       " in Global ConvertMessage.");
+      break;
+  }
+  return text;
+}
+
+void ConvertMessage(int returnCode) {
+  if (returnCode == 0) return;
+  const std::string text = ConvertMessageText(returnCode);
+  if (text.empty()) {
+    ui::ProgramError("Illegal return value " + Str(int64_t{returnCode}) +
+                     " in Global ConvertMessage.");
   }
   ui::platform().MsgBox(text, ui::vbOKOnly | ui::vbExclamation, "Speech File Convert Error");
 }

@@ -9,7 +9,7 @@ packages=(
   qt6-base-dev qt6-base-dev-tools qt6-multimedia-dev libqt6opengl6-dev
   libgl-dev xvfb xauth
   libcli11-dev nlohmann-json3-dev libsqlite3-dev libespeak-ng-dev espeak-ng-data
-  libgraphviz-dev qt6-svg-dev shared-mime-info
+  libgraphviz-dev graphviz qt6-svg-dev shared-mime-info
 )
 missing=()
 for p in "${packages[@]}"; do

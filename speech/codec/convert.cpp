@@ -62,8 +62,6 @@ int RateOfKhz(int khz) {
   }
 }
 
-constexpr size_t kBlockBytes = 64 * 1024;  // read a block at a time
-
 struct ReadFault {
   std::mutex mutex;
   uint64_t afterBytes = UINT64_MAX;
@@ -164,7 +162,7 @@ class SampleReader {
   uint64_t faultAfter_ = UINT64_MAX;
   bool readFailed_ = false;
   std::unique_ptr<StreamDecoder> decoder_;
-  std::vector<uint8_t> buffer_ = std::vector<uint8_t>(kBlockBytes);
+  std::vector<uint8_t> buffer_ = std::vector<uint8_t>(kConvertBlockBytes);
 };
 
 // The output file, written durably: the target changes only when all went well.

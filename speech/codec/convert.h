@@ -2,6 +2,7 @@
 // the Convert dialog's captions.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,6 +19,9 @@ namespace kq::speech {
 // durably: on any fault the output file is left as it was and no temporary file remains.
 int16_t Convert(const char* inputName, int16_t inputFormat, int16_t inputRate,
                 const char* outputName, int16_t outputFormat, int16_t outputRate);
+
+// The input is read this many bytes at a time.
+inline constexpr size_t kConvertBlockBytes = 128 * 1024;
 
 // For tests: the next conversion's input cannot be read beyond `afterBytes` bytes, like a
 // drive that fails in the middle of a file.

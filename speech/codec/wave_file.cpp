@@ -1,5 +1,6 @@
 #include "speech/codec/wave_file.h"
 
+#include <bit>
 #include <cstring>
 #include <string_view>
 
@@ -130,7 +131,11 @@ void AppendWaveSamples(std::span<const uint8_t> data, int bits, std::vector<int1
   }
   const size_t n = data.size() / 2;  // a last odd byte is no sample
   samples.resize(base + n);
-  for (size_t i = 0; i < n; ++i) samples[base + i] = static_cast<int16_t>(Get16(data, 2 * i));
+  if constexpr (std::endian::native == std::endian::little) {
+    std::memcpy(samples.data() + base, data.data(), n * 2);  // the file's order already
+  } else {
+    for (size_t i = 0; i < n; ++i) samples[base + i] = static_cast<int16_t>(Get16(data, 2 * i));
+  }
 }
 
 int ParseWave(std::span<const uint8_t> file, Pcm& pcm) {

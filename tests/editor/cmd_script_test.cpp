@@ -91,7 +91,8 @@ TEST_F(CmdScript, ARelativeSettingsFileIsWrittenWhereItWasNamed) {
 }
 
 TEST_F(CmdScript, TheStatusOfTheScriptIsTheStatusOfKqx) {
-  EXPECT_EQ(3, kqx::RunKqx({"script", Write("c.kqs", "frmEdit.lstNone.Click\n")}, out_, err_));
+  EXPECT_EQ(3, kqx::RunKqx({"script", Write("c.kqs", "launch\n")}, out_, err_));
+  EXPECT_EQ(4, kqx::RunKqx({"script", Write("e.kqs", "frmEdit.lstNone.Click\n")}, out_, err_));
   const std::string settings = Write("bad.ini", "SpeechAudioFormat=4\n");
   EXPECT_EQ(2,
             kqx::RunKqx({"script", Write("d.kqs", "dump\n"), "--settings", settings}, out_, err_));

@@ -15,6 +15,7 @@
 #include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 #include "ui/model/menu.h"
+#include "ui/platform/codepage.h"
 #include "ui/platform/platform.h"
 
 namespace {
@@ -22,6 +23,9 @@ namespace {
 class frmAsk : public ui::Form {
  public:
   frmAsk() : ui::Form("frmAsk", "Ask") {
+    cmdBrowse.OnClick = [this] {
+      txtValue.SetText(ui::platform().FileDialog({}).value_or("(cancelled)"));
+    };
     cmdOk.OnClick = [this] {
       answered = txtValue.Text();
       Unload();
@@ -29,6 +33,7 @@ class frmAsk : public ui::Form {
   }
   ui::TextBox txtValue{*this, "txtValue"};
   ui::CommandButton cmdOk{*this, "cmdOk", "&Ok"};
+  ui::CommandButton cmdBrowse{*this, "cmdBrowse", "&Browse"};
   std::string answered;
 };
 
@@ -55,6 +60,12 @@ class frmMain : public ui::Form {
       asked = ask.answered;
       ui::platform().MsgBox("Asked " + asked, ui::vbYesNo | ui::vbQuestion, "Result");
     };
+    cmdOpen.OnClick = [this] {
+      opened = ui::platform().FileDialog({}).value_or("(cancelled)");
+      if (ui::platform().MsgBox("Open " + opened + "?", ui::vbYesNoCancel, "Open") == ui::vbNo) {
+        opened.clear();
+      }
+    };
     mnuTools.SetEnabled(false);
     mnuTools.Append(mnuToolsItem);
     AddMenu(mnuTools);
@@ -68,9 +79,11 @@ class frmMain : public ui::Form {
   ui::CommandButton cmdOff{*this, "cmdOff", "Off"};
   ui::CommandButton cmdHidden{*this, "cmdHidden", "Hidden"};
   ui::CommandButton cmdAsk{*this, "cmdAsk", "Ask"};
+  ui::CommandButton cmdOpen{*this, "cmdOpen", "Open"};
   ui::Menu mnuTools{*this, "mnuTools", "&Tools"};
   ui::Menu mnuToolsItem{*this, "mnuToolsItem", "&Run", 0};
   std::string asked;
+  std::string opened;
   int doubleClicks = 0;
   int lastKeyDown = 0;
 };
@@ -210,7 +223,6 @@ TEST_F(ScriptRunner, TheLinesAfterAModalDialogActInItUntilItUnloads) {
 
 TEST_F(ScriptRunner, WrongLinesStopTheScriptWithTheirLineNumber) {
   const std::vector<std::pair<std::string, std::string>> cases = {
-      {"frmMain.cmdNone.Click", "unknown control frmMain.cmdNone"},
       {"frmMain.txtName.Text \"open", "string without its closing quote"},
       {"answer Maybe", "unknown answer Maybe"},
       {"launch", "unknown command launch"},
@@ -235,7 +247,6 @@ TEST_F(ScriptRunner, WrongLinesStopTheScriptWithTheirLineNumber) {
 TEST_F(ScriptRunner, WordsOutsideQuotesAreTurnedIntoTheCodePageToo) {
   const std::vector<std::pair<std::string, std::string>> cases = {
       {"answer Peut-\xC3\xAAtre", "unknown answer Peut-\xC3\xAAtre"},
-      {"frmMain.txt\xC3\x9C.Click", "unknown control frmMain.txt\xC3\x9C"},
       {"frmMain.txtName.Text \"a\\\xC3\xA9\"", "unknown escape \\\\\xC3\xA9"},
   };
   for (const auto& [line, message] : cases) {
@@ -244,6 +255,66 @@ TEST_F(ScriptRunner, WordsOutsideQuotesAreTurnedIntoTheCodePageToo) {
     EXPECT_EQ("{\"event\":\"error\",\"line\":1,\"message\":\"" + message + "\"}", Lines().back())
         << line;
   }
+}
+
+// Replies and targets that fit nothing the program did are not guessed at: the run stops
+// naming the line, with its own exit status.
+TEST_F(ScriptRunner, RepliesAndTargetsThatFitNothingStopTheScript) {
+  struct Case {
+    std::string script;
+    int line;
+    std::string message;
+  };
+  const std::vector<Case> cases = {
+      {"answer OK\nfrmMain.cmdAsk.Click\n  frmAsk.cmdOk.Click\n", 1,
+       "answer OK names no button of the box \"Result\" (YesNo)"},
+      {"file \"a.kqx\"\nanswer Retry\nfrmMain.cmdOpen.Click\n", 2,
+       "answer Retry names no button of the box \"Open\" (YesNoCancel)"},
+      {"frmMain.txtName.Text \"x\"\nfile \"a.kqx\"\nshow frmMain\nfrmMain.txtName.Text \"y\"\n", 2,
+       "no file dialog came for this reply (line 4 opened none)"},
+      // a line that is refused opens no dialog either
+      {"file cancel\nfrmMain.cmdOff.Click\n", 1,
+       "no file dialog came for this reply (line 2 opened none)"},
+      {"file \"a.kqx\"\nfile \"b.kqx\"\nfrmMain.cmdOpen.Click\n", 2,
+       "no file dialog came for this reply (line 3 opened none)"},
+      {"frmMain.txtName.Text \"x\"\nfile cancel\n", 2, "no file dialog came for this reply"},
+      {"frmMain.cmdNone.Click\n", 1, "unknown control frmMain.cmdNone"},
+      {"show frmMain.optA(2)\n", 1, "unknown control frmMain.optA(2)"},
+      {"frmMain.txt\xC3\x9C.Click\n", 1, "unknown control frmMain.txt\xC3\x9C"},
+  };
+  for (const Case& c : cases) {
+    out_.str("");
+    EXPECT_EQ(ui::kScriptMismatch, Run(c.script)) << c.script;
+    const auto errors = platform_->EventsOf("error");
+    ASSERT_EQ(1u, errors.size()) << c.script;
+    EXPECT_EQ(c.line, errors[0].fields["line"].Int()) << c.script;
+    EXPECT_EQ(c.message, ui::Cp1252ToUtf8(errors[0].fields["message"].Str())) << c.script;
+  }
+}
+
+// A reply is for the next line that acts and for the dialogs that line opens, however
+// many lines act inside those dialogs before the file dialog comes.
+TEST_F(ScriptRunner, RepliesFitTheDialogsTheirLineOpens) {
+  EXPECT_EQ(0, Run("file \"first.kqx\"\n"
+                   "answer Cancel\n"
+                   "frmMain.cmdOpen.Click\n"
+                   "file \"second.kqx\"\n"
+                   "answer No\n"
+                   "frmMain.cmdAsk.Click\n"
+                   "  frmAsk.txtValue.Type \"1\"\n"
+                   "  frmAsk.cmdBrowse.Click\n"
+                   "  frmAsk.cmdOk.Click\n"));
+  EXPECT_EQ("first.kqx", form_->opened);
+  EXPECT_EQ("second.kqx", form_->asked);
+  const auto boxes = platform_->EventsOf("msgbox");
+  ASSERT_EQ(2u, boxes.size());
+  EXPECT_EQ("Cancel", boxes[0].fields["answer"].Str());
+  EXPECT_EQ("No", boxes[1].fields["answer"].Str());
+  EXPECT_TRUE(platform_->PendingFileLines().empty());
+  // Without the runner, a platform takes any queued answer as it is.
+  ui::HeadlessPlatform plain;
+  plain.QueueAnswer(ui::vbRetry);
+  EXPECT_EQ(ui::vbRetry, plain.MsgBox("text", ui::vbOKOnly, "title"));
 }
 
 TEST_F(ScriptRunner, ShowAndDumpPrintStates) {

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <random>
 
+#include "speech/codec/batch.h"
 #include "speech/codec/codecs.h"
 #include "speech/codec/convert.h"
 #include "speech/codec/convert_codes.h"
@@ -141,8 +142,9 @@ TEST_F(StreamTest, GivesTheBytesOfTheWholeSignalConversion) {
 }
 
 TEST_F(StreamTest, MatchesTheWholeSignalPathAtBlockEdgesAndOddLengths) {
-  // 16-bit WAVE data is read 32768 samples a block; 8-bit 65536.
-  const size_t lengths[] = {1, 2, 3, 32767, 32768, 32769, 65537};
+  // A block holds kConvertBlockBytes / 2 samples of 16-bit data, twice that of 8-bit.
+  constexpr size_t kHalf = kConvertBlockBytes / 2;
+  const size_t lengths[] = {1, 2, 3, kHalf - 1, kHalf, kHalf + 1, 2 * kHalf + 1};
   const int outputs[] = {kRhetorex32, kRhetorex24, kULaw, kALaw, kLinear, kOki32, kOki24};
   for (const int rate : {8000, 11025, 22050, 44100}) {
     for (const int bits : {8, 16}) {
@@ -171,8 +173,8 @@ TEST_F(StreamTest, MatchesTheWholeSignalPathAtBlockEdgesAndOddLengths) {
 TEST_F(StreamTest, HeaderlessInputsOfEveryLengthDecodeAsBefore) {
   std::mt19937 random(7);
   for (const int format : {kRhetorex32, kRhetorex24, kULaw, kALaw, kLinear, kOki32, kOki24}) {
-    for (const size_t n : {size_t{0}, size_t{1}, size_t{2}, size_t{3}, size_t{65535}, size_t{65536},
-                           size_t{65537}, size_t{200003}}) {
+    for (const size_t n : {size_t{0}, size_t{1}, size_t{2}, size_t{3}, kConvertBlockBytes - 1,
+                           kConvertBlockBytes, kConvertBlockBytes + 1}) {
       Bytes raw(n);
       for (uint8_t& b : raw) b = static_cast<uint8_t>(random());
       const std::string in = Write("in.raw", raw);
@@ -255,6 +257,30 @@ TEST_F(StreamTest, FaultsFoundLateLeaveTheOutputAsItWas) {
   ASSERT_EQ(Convert(good, kWave, out, kOki32), 0);
   EXPECT_EQ(fs::file_size(out), (ResampledLength(200000, 44100, 8000) + 1) / 2);
   EXPECT_TRUE(NoTemporaryLeft());
+}
+
+TEST_F(StreamTest, ABatchReportsProgressOnceAJobAndFailuresInJobOrder) {
+  std::vector<kq::speech::BatchJob> jobs;
+  for (int i = 0; i < 40; ++i) {
+    const std::string in = i % 7 == 3 ? PathOf("missing.wav")
+                                      : Write("in" + std::to_string(i) + ".wav",
+                                              WaveFile(SpeechLike(22050, 3000), 22050, 16));
+    jobs.push_back({in, PathOf("out" + std::to_string(i) + ".mlw"), kWave, kULaw});
+  }
+  std::vector<size_t> seen;
+  const auto failures = ConvertBatch(jobs, 4, [&](size_t done, size_t total) {
+    EXPECT_EQ(total, jobs.size());
+    seen.push_back(done);
+  });
+  ASSERT_EQ(seen.size(), jobs.size());
+  for (size_t i = 0; i < seen.size(); ++i) EXPECT_EQ(seen[i], i + 1);
+  ASSERT_EQ(failures.size(), 6u);  // 3, 10, 17, 24, 31, 38
+  for (size_t k = 0; k < failures.size(); ++k) {
+    EXPECT_EQ(failures[k].input, PathOf("missing.wav"));
+    EXPECT_EQ(failures[k].code, kInputOpenError);
+  }
+  EXPECT_EQ(Read(PathOf("out5.mlw")), Read(PathOf("out6.mlw")));
+  EXPECT_EQ(fs::file_size(PathOf("out0.mlw")), ResampledLength(3000, 22050, 8000));
 }
 
 }  // namespace

@@ -43,6 +43,23 @@ int FirstButton(int flags) {
   }
 }
 
+bool HasButton(int flags, int answer) {
+  switch (flags & kButtonsMask) {
+    case vbOKCancel:
+      return answer == vbOK || answer == vbCancel;
+    case vbAbortRetryIgnore:
+      return answer == vbAbort || answer == vbRetry || answer == vbIgnore;
+    case vbYesNoCancel:
+      return answer == vbYes || answer == vbNo || answer == vbCancel;
+    case vbYesNo:
+      return answer == vbYes || answer == vbNo;
+    case vbRetryCancel:
+      return answer == vbRetry || answer == vbCancel;
+    default:
+      return answer == vbOK;
+  }
+}
+
 const char* IconName(int flags) {
   switch (flags & kIconMask) {
     case vbCritical:
@@ -116,12 +133,24 @@ void HeadlessPlatform::Emit(Json fields) {
   events_.push_back(std::move(e));
 }
 
+std::vector<int> HeadlessPlatform::PendingFileLines() const {
+  std::vector<int> lines;
+  for (const auto& reply : files_) lines.push_back(reply.second);
+  return lines;
+}
+
 int HeadlessPlatform::MsgBox(const std::string& text, int flags, const std::string& title) {
   const bool queued = !answers_.empty();
   int answer = FirstButton(flags);
   if (queued) {
-    answer = answers_.front();
+    const auto [code, line] = answers_.front();
     answers_.pop_front();
+    if (strictAnswers && !HasButton(flags, code)) {
+      throw ReplyMismatch(line, std::string("answer ") + AnswerName(code) +
+                                    " names no button of the box \"" + title + "\" (" +
+                                    ButtonsName(flags) + ")");
+    }
+    answer = code;
   }
   Json j = Object("msgbox");
   j.Set("title", title);
@@ -190,7 +219,7 @@ void HeadlessPlatform::FocusChanged(Form& form, Control& control) {
 std::optional<std::string> HeadlessPlatform::FileDialog(const FileDialogRequest& request) {
   std::optional<std::string> answer;
   if (!files_.empty()) {
-    answer = files_.front();
+    answer = std::move(files_.front().first);
     files_.pop_front();
   }
   Json j = Object("filedialog");

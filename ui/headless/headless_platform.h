@@ -28,6 +28,13 @@ struct ModalNotDriven : std::logic_error {
       : std::logic_error("modal form " + form + " shown with nothing to drive it") {}
 };
 
+// Thrown, when the replies are strict, by a box that a queued answer names no button of.
+// `line` is the script line that queued the answer.
+struct ReplyMismatch : std::logic_error {
+  ReplyMismatch(int line, const std::string& text) : std::logic_error(text), line(line) {}
+  int line;
+};
+
 struct Event {
   std::string kind;  // the "event" field
   Json fields;       // the whole object, "event" included
@@ -40,8 +47,16 @@ class HeadlessPlatform : public Platform {
   ~HeadlessPlatform() override;
 
   // ---- Queues of answers
-  void QueueAnswer(int answer) { answers_.push_back(answer); }
-  void QueueFile(std::optional<std::string> path) { files_.push_back(std::move(path)); }
+  // `line` names the script line that queued the reply (0: none).
+  void QueueAnswer(int answer, int line = 0) { answers_.push_back({answer, line}); }
+  void QueueFile(std::optional<std::string> path, int line = 0) {
+    files_.push_back({std::move(path), line});
+  }
+  // The lines of the file replies that no dialog has taken yet, oldest first.
+  std::vector<int> PendingFileLines() const;
+  // An answer that names no button of the box it meets throws ReplyMismatch instead of
+  // being returned as it is (the script runner).
+  bool strictAnswers = false;
   // from, to, copies; nullopt cancels
   void QueuePrint(std::optional<PrintDialogRequest> r) { prints_.push_back(std::move(r)); }
   // Drives the next modal form that is shown (by name; empty matches any form).
@@ -107,8 +122,8 @@ class HeadlessPlatform : public Platform {
   void Emit(Json fields);
   void FlushPage();
 
-  std::deque<int> answers_;
-  std::deque<std::optional<std::string>> files_;
+  std::deque<std::pair<int, int>> answers_;                       // answer, line
+  std::deque<std::pair<std::optional<std::string>, int>> files_;  // path, line
   std::deque<std::optional<PrintDialogRequest>> prints_;
   std::deque<std::pair<std::string, std::function<void(Form&)>>> modal_;
   std::vector<Event> events_;

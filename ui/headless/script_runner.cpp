@@ -1,11 +1,13 @@
 #include "ui/headless/script_runner.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 #include "ui/headless/headless_platform.h"
+#include "ui/headless/script_parser.h"
+#include "ui/headless/script_state.h"
 #include "ui/model/controls.h"
 #include "ui/model/file_controls.h"
 #include "ui/model/form.h"
@@ -24,230 +26,11 @@ struct ScriptError {
   std::string message;
 };
 
-struct Token {
-  std::string text;  // in Windows-1252; a quoted string is unescaped
-  bool quoted = false;
+// The script does not fit what the program did: the run stops with exit status 4.
+struct ScriptMismatch {
+  int line;
+  std::string message;
 };
-
-// Splits a line (already in Windows-1252) into words and quoted strings.
-std::optional<std::vector<Token>> Tokenize(std::string_view line, std::string& problem) {
-  std::vector<Token> tokens;
-  size_t i = 0;
-  while (i < line.size()) {
-    const char c = line[i];
-    if (c == ' ' || c == '\t' || c == '\r') {
-      ++i;
-      continue;
-    }
-    Token t;
-    if (c == '"') {
-      t.quoted = true;
-      std::string raw;
-      ++i;
-      bool closed = false;
-      while (i < line.size()) {
-        char d = line[i++];
-        if (d == '"') {
-          closed = true;
-          break;
-        }
-        if (d == '\\') {
-          if (i >= line.size()) break;
-          const char e = line[i++];
-          switch (e) {
-            case '"':
-              d = '"';
-              break;
-            case '\\':
-              d = '\\';
-              break;
-            case 't':
-              d = '\t';
-              break;
-            case 'r':
-              d = '\r';
-              break;
-            case 'n':
-              d = '\n';
-              break;
-            default:
-              problem = std::string("unknown escape \\") + e;
-              return std::nullopt;
-          }
-        }
-        raw += d;
-      }
-      if (!closed) {
-        problem = "string without its closing quote";
-        return std::nullopt;
-      }
-      t.text = std::move(raw);
-    } else {
-      while (i < line.size() && line[i] != ' ' && line[i] != '\t' && line[i] != '\r') {
-        if (line[i] == '"') {
-          problem = "quote inside a word";
-          return std::nullopt;
-        }
-        t.text += line[i++];
-      }
-    }
-    tokens.push_back(std::move(t));
-  }
-  return tokens;
-}
-
-// form, form.control or form.control(index), with an action behind a last dot or not.
-struct Target {
-  std::string form;
-  std::string control;  // empty: the form itself
-  int index = -1;
-};
-
-std::optional<int> ParseInt(const std::string& s) {
-  if (s.empty()) return std::nullopt;
-  char* end = nullptr;
-  const long v = std::strtol(s.c_str(), &end, 10);
-  if (*end != '\0' || v < -1000000000L || v > 1000000000L) return std::nullopt;
-  return static_cast<int>(v);
-}
-
-std::optional<Target> ParseTarget(const std::string& text) {
-  Target t;
-  const auto dot = text.find('.');
-  t.form = text.substr(0, dot);
-  if (t.form.empty()) return std::nullopt;
-  if (dot == std::string::npos) return t;
-  std::string rest = text.substr(dot + 1);
-  if (rest.empty() || rest.find('.') != std::string::npos) return std::nullopt;
-  const auto open = rest.find('(');
-  if (open != std::string::npos) {
-    if (rest.back() != ')') return std::nullopt;
-    const auto index = ParseInt(rest.substr(open + 1, rest.size() - open - 2));
-    if (!index || *index < 0) return std::nullopt;
-    t.index = *index;
-    rest = rest.substr(0, open);
-  }
-  if (rest.empty()) return std::nullopt;
-  t.control = rest;
-  return t;
-}
-
-std::string ControlLabel(const Control& c) {
-  return c.Index() < 0 ? c.Name() : c.Name() + "(" + std::to_string(c.Index()) + ")";
-}
-
-std::optional<int> AnswerCode(const std::string& name) {
-  if (name == "OK") return vbOK;
-  if (name == "Cancel") return vbCancel;
-  if (name == "Yes") return vbYes;
-  if (name == "No") return vbNo;
-  if (name == "Retry") return vbRetry;
-  if (name == "Abort") return vbAbort;
-  if (name == "Ignore") return vbIgnore;
-  return std::nullopt;
-}
-
-// Why a person could not use the control, or empty when they could.
-std::string RefusalOf(const Control& c) {
-  if (c.Usable()) return {};
-  if (!c.Enabled()) return ControlLabel(c) + " is disabled";
-  if (!c.Visible()) return ControlLabel(c) + " is not visible";
-  if (c.Kind() == ControlKind::Menu) {
-    const auto& m = static_cast<const Menu&>(c);
-    if (m.IsSeparator()) return ControlLabel(c) + " is a separator";
-    return ControlLabel(c) + " is under a menu that is disabled";
-  }
-  return ControlLabel(c) + " is in a frame that is disabled";
-}
-
-Json ControlState(const Control& c) {
-  Json j;
-  j.Set("event", "state");
-  j.Set("form", c.Parent().Name());
-  j.Set("control", c.Name());
-  j.Set("index", c.Index() < 0 ? Json() : Json(c.Index()));
-  auto items = [&j](const std::vector<std::string>& list) {
-    Json::Array a;
-    for (const auto& s : list) a.emplace_back(s);
-    j.Set("items", std::move(a));
-  };
-  switch (c.Kind()) {
-    case ControlKind::Label:
-    case ControlKind::CommandButton:
-    case ControlKind::Frame:
-    case ControlKind::Menu:
-      j.Set("caption", c.Caption());
-      break;
-    case ControlKind::TextBox:
-      j.Set("text", static_cast<const TextBox&>(c).Text());
-      break;
-    case ControlKind::CheckBox:
-    case ControlKind::OptionButton:
-      j.Set("caption", c.Caption());
-      break;
-    case ControlKind::ComboBox: {
-      const auto& cb = static_cast<const ComboBox&>(c);
-      j.Set("text", cb.Text());
-      break;
-    }
-    case ControlKind::ListBox:
-    case ControlKind::FileListBox:
-      break;
-    case ControlKind::DriveListBox:
-      j.Set("text", static_cast<const DriveListBox&>(c).Drive());
-      break;
-    case ControlKind::DirListBox:
-    case ControlKind::MediaControl:
-      break;
-    case ControlKind::ScrollBar:
-      j.Set("value", static_cast<const HScrollBar&>(c).Value());
-      break;
-  }
-  j.Set("enabled", c.Enabled());
-  j.Set("visible", c.Visible());
-  if (c.Kind() == ControlKind::CheckBox) j.Set("value", static_cast<const CheckBox&>(c).Value());
-  if (c.Kind() == ControlKind::OptionButton) {
-    j.Set("value", static_cast<const OptionButton&>(c).Value());
-  }
-  if (c.Kind() == ControlKind::Menu) j.Set("checked", static_cast<const Menu&>(c).Checked());
-  if (c.Kind() == ControlKind::ComboBox) {
-    const auto& cb = static_cast<const ComboBox&>(c);
-    j.Set("ListIndex", cb.ListIndex());
-    std::vector<std::string> list;
-    for (int i = 0; i < cb.ListCount(); ++i) list.push_back(cb.List(i));
-    items(list);
-  } else if (c.Kind() == ControlKind::ListBox || c.Kind() == ControlKind::FileListBox) {
-    const auto& lb = static_cast<const ListBox&>(c);
-    j.Set("ListIndex", lb.ListIndex());
-    items(lb.Items());
-    Json::Array sel;
-    for (int i : lb.SelectedIndexes()) sel.emplace_back(i);
-    j.Set("selected", std::move(sel));
-    if (c.Kind() == ControlKind::FileListBox) {
-      const auto& fl = static_cast<const FileListBox&>(c);
-      j.Set("path", fl.Path());
-      j.Set("pattern", fl.Pattern());
-    }
-  } else if (c.Kind() == ControlKind::DirListBox) {
-    const auto& dl = static_cast<const DirListBox&>(c);
-    j.Set("ListIndex", dl.ListIndex());
-    std::vector<std::string> list;
-    for (int i = 0; i < dl.ListCount(); ++i) list.push_back(dl.List(i));
-    items(list);
-    j.Set("path", dl.Path());
-  }
-  return j;
-}
-
-Json FormState(const Form& f) {
-  Json j;
-  j.Set("event", "state");
-  j.Set("form", f.Name());
-  j.Set("caption", f.Caption());
-  j.Set("visible", f.Visible());
-  j.Set("active", f.ActiveControl() ? Json(ControlLabel(*f.ActiveControl())) : Json());
-  return j;
-}
 
 class Runner {
  public:
@@ -259,10 +42,13 @@ class Runner {
     // A byte order mark that an editor put in front of the first line is not part of it.
     if (!lines_.empty() && lines_[0].rfind("\xEF\xBB\xBF", 0) == 0) lines_[0].erase(0, 3);
     p_.modalDriver = [this](Form& form) { RunUntilUnloaded(&form); };
+    const bool wasStrict = p_.strictAnswers;
+    p_.strictAnswers = true;
     int status = kScriptOk;
     try {
       if (hooks_.start) hooks_.start();
       RunUntilUnloaded(nullptr);
+      ExpectFileRepliesTaken(awaiting_, 0);  // none left at the end either
     } catch (const ProgramEnded& e) {
       Json j;
       j.Set("event", "programend");
@@ -275,7 +61,14 @@ class Runner {
     } catch (const ModalNotDriven& e) {
       Error(current_, e.what());
       status = kScriptWrong;
+    } catch (const ScriptMismatch& e) {
+      Error(e.line, e.message);
+      status = kScriptMismatch;
+    } catch (const ReplyMismatch& e) {
+      Error(e.line, e.what());
+      status = kScriptMismatch;
     }
+    p_.strictAnswers = wasStrict;
     p_.modalDriver = nullptr;
     return status;
   }
@@ -314,6 +107,22 @@ class Runner {
   }
 
   [[noreturn]] void Wrong(const std::string& message) { throw ScriptError{current_, message}; }
+  [[noreturn]] void Mismatch(int line, const std::string& message) {
+    throw ScriptMismatch{line, message};
+  }
+
+  // The file replies queued for a line must have been taken by a file dialog when it is
+  // done: a reply left over would answer some later dialog by a guess.
+  void ExpectFileRepliesTaken(const std::vector<int>& queuedAt, int actingLine) {
+    if (queuedAt.empty()) return;
+    const std::vector<int> pending = p_.PendingFileLines();
+    for (int line : queuedAt) {
+      if (std::find(pending.begin(), pending.end(), line) == pending.end()) continue;
+      Mismatch(line, actingLine > 0 ? "no file dialog came for this reply (line " +
+                                          std::to_string(actingLine) + " opened none)"
+                                    : "no file dialog came for this reply");
+    }
+  }
 
   void RunLine(const std::string& raw) {
     std::string_view line(raw);
@@ -335,7 +144,11 @@ class Runner {
     if (head == "setting") return Setting(t);
     if (head == "show") return Show(t);
     if (head == "dump") return Dump(t);
+    // The file replies queued so far are for this line and the dialogs it opens.
+    std::vector<int> queuedAt;
+    queuedAt.swap(awaiting_);
     Act(t);
+    ExpectFileRepliesTaken(queuedAt, current_);
   }
 
   void Arity(const std::vector<Token>& t, size_t n) {
@@ -346,18 +159,19 @@ class Runner {
     Arity(t, 2);
     const auto code = AnswerCode(t[1].text);
     if (!code || t[1].quoted) Wrong("unknown answer " + t[1].text);
-    p_.QueueAnswer(*code);
+    p_.QueueAnswer(*code, current_);
   }
 
   void File(const std::vector<Token>& t) {
     Arity(t, 2);
     if (!t[1].quoted && t[1].text == "cancel") {
-      p_.QueueFile(std::nullopt);
+      p_.QueueFile(std::nullopt, current_);
     } else if (t[1].quoted) {
-      p_.QueueFile(t[1].text);
+      p_.QueueFile(t[1].text, current_);
     } else {
       Wrong("file takes a quoted path or cancel");
     }
+    awaiting_.push_back(current_);
   }
 
   void PrintDialog(const std::vector<Token>& t) {
@@ -419,7 +233,7 @@ class Runner {
     }
     if (form == nullptr) return Refused("form " + target->form + " is not shown");
     Control* c = form->FindControl(target->control, target->index);
-    if (c == nullptr) Wrong("unknown control " + t[1].text);
+    if (c == nullptr) Mismatch(current_, "unknown control " + t[1].text);
     p_.Record(ControlState(*c));
   }
 
@@ -459,7 +273,7 @@ class Runner {
     Form* form = ActiveForm(target->form);
     if (form == nullptr) return;
     Control* c = form->FindControl(target->control, target->index);
-    if (c == nullptr) Wrong("unknown control " + head.substr(0, dot));
+    if (c == nullptr) Mismatch(current_, "unknown control " + head.substr(0, dot));
     const std::string refusal = RefusalOf(*c);
     if (!refusal.empty()) return Refused(refusal);
     Perform(*form, *c, action, t);
@@ -558,7 +372,12 @@ class Runner {
         NotFor(c, action);
       }
     } else if (action == "Path" && IsDiskList(kind)) {
-      ChoosePath(c, StringArg(t, action));
+      const std::string& folder = StringArg(t, action);
+      // A folder that cannot be read is the system's run-time error, which no handler of
+      // the person's own stands to catch: the line reports it, the control stays as it was.
+      if (const int error = ChooseFolder(c, folder)) {
+        Refused("run-time error " + std::to_string(error) + " on " + folder);
+      }
     } else if (action == "Press" && kind == ControlKind::MediaControl) {
       Arity(t, 2);
       const int b = MediaButtonOfName(t[1].text);
@@ -573,30 +392,6 @@ class Runner {
     } else {
       Wrong("unknown action " + action);
     }
-  }
-
-  static bool IsDiskList(ControlKind kind) {
-    return kind == ControlKind::DriveListBox || kind == ControlKind::DirListBox ||
-           kind == ControlKind::FileListBox;
-  }
-
-  // A person points a drive, directory or file list at a folder. A folder that cannot be
-  // read is the system's run-time error, which no handler of the person's own stands to
-  // catch: the line reports it and the control stays as it was.
-  void ChoosePath(Control& c, const std::string& folder) {
-    int error = 0;
-    switch (c.Kind()) {
-      case ControlKind::DriveListBox:
-        error = static_cast<DriveListBox&>(c).UserPath(folder);
-        break;
-      case ControlKind::DirListBox:
-        error = static_cast<DirListBox&>(c).UserPath(folder);
-        break;
-      default:
-        error = static_cast<FileListBox&>(c).UserPath(folder);
-        break;
-    }
-    if (error != 0) Refused("run-time error " + std::to_string(error) + " on " + folder);
   }
 
   void Select(Control& c, const Token& arg) {
@@ -653,7 +448,8 @@ class Runner {
   const ScriptHooks& hooks_;
   std::vector<std::string> lines_;
   size_t next_ = 0;
-  int current_ = 0;  // the line being run, from 1
+  int current_ = 0;            // the line being run, from 1
+  std::vector<int> awaiting_;  // file replies queued since the last acting line
 };
 
 }  // namespace

@@ -45,6 +45,9 @@ struct ScriptHooks {
 inline constexpr int kScriptOk = 0;
 inline constexpr int kScriptProgramEnded = 2;
 inline constexpr int kScriptWrong = 3;
+// The script does not fit what the program did: an answer that names no button of the box
+// it meets, a file reply where no file dialog comes, a target that names no control.
+inline constexpr int kScriptMismatch = 4;
 
 // Runs the script (UTF-8) on a headless platform of its own and writes the events (UTF-8
 // JSON lines) to out. No platform is installed afterwards.
