@@ -91,13 +91,16 @@ struct Program {
     for (int i : lines) list.SetSelected(i, true);
   }
 
+  // One command of a round of ten that leaves the document a few lines shorter, so that
+  // it never outgrows the stores: four Modify, an Insert, Deletes of one, three and five
+  // scattered lines, a declaration, and an Insert file of five lines.
   void Step(kq::EditHistory& history, int s) {
     const int n = list.ListCount();
     switch (s % 10) {
       case 0:
       case 1:
       case 2:
-      case 3: {  // Modify
+      case 3: {
         const int k = Pick(n);
         const kq::EditScope scope(history, "Modify", kq::LineMoves::None);
         HandOver();
@@ -106,8 +109,7 @@ struct Program {
         kq::UpdateFuncParm(k, kq::FuncNo);
         break;
       }
-      case 4:
-      case 5: {  // Insert in front of a line
+      case 4: {
         SelectOnly({Pick(n)});
         const kq::EditScope scope(history, "Insert", kq::LineMoves::InsertAtCurrent);
         HandOver();
@@ -115,26 +117,26 @@ struct Program {
         ++kq::PrgHdr.LineCount;
         break;
       }
+      case 5:
       case 6:
-      case 7: {  // Delete of one line, or of three scattered lines
-        if (s % 10 == 6) {
-          SelectOnly({Pick(n)});
-        } else {
-          SelectOnly({Pick(n / 3), n / 3 + Pick(n / 3), 2 * (n / 3) + Pick(n / 3)});
-        }
+      case 9: {
+        std::vector<int> lines;
+        const int count = s % 10 == 5 ? 1 : s % 10 == 6 ? 3 : 5;
+        for (int c = 0; c < count; ++c) lines.push_back(c * (n / count) + Pick(n / count));
+        SelectOnly(lines);
         const kq::EditScope scope(history, "Delete", kq::LineMoves::DeleteSelected);
         kq::PrgHdr.LineCount =
             static_cast<int16_t>(kq::PrgHdr.LineCount - kq::DeleteSelectedFromStores(list));
         break;
       }
-      case 8: {  // a declaration
+      case 7: {
         const kq::EditScope scope(history, "Variables", kq::LineMoves::None);
         kq::VarRef& v = kq::PrgHdr.Variable[Pick(kq::kMaxVariables)];
         v.VarRefType = Pick(3);
         kq::SetField(v.VarRefName, "V" + std::to_string(Pick(100000)));
         break;
       }
-      default: {  // Insert file: five lines of the document itself, at a random line
+      default: {
         const int first = Pick(n - 5);
         const std::vector<uint8_t> image =
             kq::LinesImage({first, first + 1, first + 2, first + 3, first + 4});

@@ -134,11 +134,11 @@ TEST_F(StartupTest, ADroppedApplicationFileOpensAfterTheClosePrompts) {
 TEST(QtClipboardTest, EveryFormatGoesThroughTheSystemClipboard) {
   ui::qt::QtClipboard clipboard;
   const std::string bytes("KQ\0\xff\x80 lines", 10);
-  clipboard.Set({{kq::kLinesMime, bytes}, {ui::kPlainTextMime, "0000\t\tRemark \xc6ble\n"}});
+  clipboard.Set({{kq::kLinesMime, bytes}, {ui::kPlainTextMime, "0000\t\tRemark \xc6" "ble\n"}});
   const ui::ClipboardData got = clipboard.Get();
   ASSERT_TRUE(got.count(kq::kLinesMime));
   EXPECT_EQ(got.at(kq::kLinesMime), bytes);
-  EXPECT_EQ(got.at(ui::kPlainTextMime), "0000\t\tRemark \xc6ble\n");
+  EXPECT_EQ(got.at(ui::kPlainTextMime), "0000\t\tRemark \xc6" "ble\n");
   EXPECT_EQ(QApplication::clipboard()->text(), QString::fromUtf8("0000\t\tRemark Æble\n"));
 }
 
