@@ -16,6 +16,7 @@
 #include "document/byte_reader.h"
 #include "document/disk_error.h"
 #include "document/document.h"
+#include "document/field_empty.h"
 #include "document/file_common.h"
 #include "document/file_io.h"
 #include "document/kqx_format.h"
@@ -63,30 +64,31 @@ void StageHeader(bool saveAll, int firstLine, int lastLine, int16_t lineCount) {
   CopyHdr.LineCount = lineCount;
 }
 
-void BuildFile(std::vector<uint8_t>& bytes, int firstLine, int lastLine) {
-  const int n = lastLine >= firstLine ? lastLine - firstLine + 1 : 0;
+// The file of the staged header and the given lines of the list; `renumber` numbers the
+// DisplayLines from 0000 in the order given.
+void BuildFileOf(std::vector<uint8_t>& bytes, const std::vector<int>& lines, bool renumber) {
+  const size_t n = lines.size();
   bytes.clear();
-  bytes.reserve(kHeaderSize + static_cast<size_t>(n) * (kDisplayLineWidth + kProgramLineSize) +
-                static_cast<size_t>(n) * 256);
+  bytes.reserve(kHeaderSize + n * (kDisplayLineWidth + kProgramLineSize) + n * 256);
   ByteWriter out(bytes);
   out.Put(PrgHdr.Version, kVersionSize);
   WriteHeader(out, CopyHdr);
 
   ui::ListBox& list = EditList();
   char field[kDisplayLineWidth];
-  for (int i = firstLine; i <= lastLine; ++i) {
-    const std::string& item = list.List(i);
+  for (size_t k = 0; k < n; ++k) {
+    const std::string& item = list.List(lines[k]);
     const size_t len = std::min(item.size(), sizeof field);
     std::memcpy(field, item.data(), len);
     std::memset(field + len, ' ', sizeof field - len);
-    if (firstLine > 0) {
-      const std::string digits = Format0000(i - firstLine);
+    if (renumber) {
+      const std::string digits = Format0000(static_cast<int>(k));
       std::memcpy(field, digits.data(), 4);
     }
     out.Put(field, sizeof field);
   }
 
-  for (int i = firstLine; i <= lastLine; ++i) {
+  for (int i : lines) {
     const ProgramLine& line = LineTable[i];
     WriteProgramLine(out, line);
     const int funcNo = line.LineFuncNo;
@@ -98,6 +100,12 @@ void BuildFile(std::vector<uint8_t>& bytes, int firstLine, int lastLine) {
     std::memcpy(record, FuncBlock[i], length);
     out.Put(record, length);
   }
+}
+
+void BuildFile(std::vector<uint8_t>& bytes, int firstLine, int lastLine) {
+  std::vector<int> lines;
+  for (int i = firstLine; i <= lastLine; ++i) lines.push_back(i);
+  BuildFileOf(bytes, lines, firstLine > 0);
 }
 
 // Takes the lines of a checked file into the stores, converting old records.
@@ -132,6 +140,27 @@ void TakeLines(ByteReader& in, const KqxImage& image) {
 }
 
 }  // namespace
+
+std::vector<uint8_t> LinesImage(const std::vector<int>& lines) {
+  CopyHdr.CompiledFlag = 0;  // lines taken out of their application need a compile
+  StagePartVariables(lines);
+  StagePartPaths(lines);
+  int j = 0;
+  for (int t = 0; t < kMaxTables; ++t) {
+    TableEntry& c = CopyHdr.Table[t];
+    SetField(c.TableName, "");
+    for (auto& column : c.Column) column = BlankVarRef;
+  }
+  for (const TableEntry& t : PrgHdr.Table) {
+    if (!EmptyField(t.TableName) && TableUsedInLines(View(t.TableName), lines)) {
+      CopyHdr.Table[j++] = t;
+    }
+  }
+  CopyHdr.LineCount = static_cast<int16_t>(lines.size());
+  std::vector<uint8_t> bytes;
+  BuildFileOf(bytes, lines, true);
+  return bytes;
+}
 
 void SaveFile(std::string& title, std::string& fileName, bool saveAll, int firstLine, int lastLine,
               int16_t& lineCount) {

@@ -8,6 +8,7 @@
 // more shown and the document as it was.
 #include "document/merge.h"
 
+#include <cstddef>
 #include <cstring>
 #include <string>
 #include <vector>
@@ -18,6 +19,7 @@
 #include "document/field_empty.h"
 #include "document/file.h"
 #include "document/file_common.h"
+#include "document/functions.h"
 #include "document/kqx_format.h"
 #include "document/state.h"
 #include "document/text.h"
@@ -233,7 +235,57 @@ void MergeLines(ByteReader& in, int position, int count) {
 
 }  // namespace
 
+namespace {
+
+// The lines of a range as a set; empty when the range is.
+std::vector<int> RangeLines(int firstLine, int lastLine) {
+  std::vector<int> lines;
+  for (int i = firstLine; i <= lastLine; ++i) lines.push_back(i);
+  return lines;
+}
+
+// The functions whose record begins with the name of the table they work on.
+bool IsTableFunction(int funcNo) {
+  switch (ToFn(funcNo)) {
+    case Fn::ConnectTable:
+    case Fn::DisconnectTable:
+    case Fn::AddRecord:
+    case Fn::DeleteRecord:
+    case Fn::GetFirstRecord:
+    case Fn::SelectRecords:
+    case Fn::InsertRecord:
+    case Fn::GetLastRecord:
+    case Fn::GetNextRecord:
+    case Fn::GetPrevRecord:
+    case Fn::UpdateRecord:
+    case Fn::GetRecordNo:
+    case Fn::GetNoOfRec:
+    case Fn::EmptyTable:
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
 bool VarUsedInLines(const VarRef& v, int firstLine, int lastLine) {
+  return VarUsedInLines(v, RangeLines(firstLine, lastLine));
+}
+
+bool PathUsedInLines(int32_t pathType, std::string_view name28, int firstLine, int lastLine) {
+  return PathUsedInLines(pathType, name28, RangeLines(firstLine, lastLine));
+}
+
+void StagePartVariables(int firstLine, int lastLine) {
+  StagePartVariables(RangeLines(firstLine, lastLine));
+}
+
+void StagePartPaths(int firstLine, int lastLine) {
+  StagePartPaths(RangeLines(firstLine, lastLine));
+}
+
+bool VarUsedInLines(const VarRef& v, const std::vector<int>& lines) {
   if (Named(PrgHdr.Table[0].TableName)) {
     for (const TableEntry& t : PrgHdr.Table) {
       if (!Named(t.TableName)) continue;
@@ -242,40 +294,53 @@ bool VarUsedInLines(const VarRef& v, int firstLine, int lastLine) {
       }
     }
   }
-  for (int i = firstLine; i <= lastLine; ++i) {
+  for (int i : lines) {
     if (FoundVarFunc(i, v)) return true;
   }
   return false;
 }
 
-bool PathUsedInLines(int32_t pathType, std::string_view name28, int firstLine, int lastLine) {
-  for (int i = firstLine; i <= lastLine; ++i) {
+bool PathUsedInLines(int32_t pathType, std::string_view name28, const std::vector<int>& lines) {
+  for (int i : lines) {
     if (FoundPathFunc(i, pathType, name28)) return true;
   }
   return false;
 }
 
-void StagePartVariables(int firstLine, int lastLine) {
+void StagePartVariables(const std::vector<int>& lines) {
   int j = 0;
   for (int i = 0; i < kMaxVariables; ++i) {
     CopyHdr.Variable[i] = BlankVarRef;
     const VarRef& v = PrgHdr.Variable[i];
-    if (Named(v) && VarUsedInLines(v, firstLine, lastLine)) CopyHdr.Variable[j++] = v;
+    if (Named(v) && VarUsedInLines(v, lines)) CopyHdr.Variable[j++] = v;
   }
 }
 
-void StagePartPaths(int firstLine, int lastLine) {
+void StagePartPaths(const std::vector<int>& lines) {
   for (int t = 0; t < kPathTypes; ++t) {
     int j = 0;
     for (int i = 0; i < kPathRows; ++i) {
       CopyHdr.Path[i][t] = BlankPathEntry;
       const PathEntry& e = PrgHdr.Path[i][t];
-      if (Named(e.PathName) &&
-          PathUsedInLines(kPathExport + t, View(e.PathName), firstLine, lastLine)) {
+      if (Named(e.PathName) && PathUsedInLines(kPathExport + t, View(e.PathName), lines)) {
         CopyHdr.Path[j++][t] = e;
       }
     }
   }
+}
+
+bool TableUsedInLines(std::string_view name16, const std::vector<int>& lines) {
+  for (int i : lines) {
+    const int funcNo = LineTable[i].LineFuncNo;
+    size_t offset = 0;  // the table functions name their table first
+    if (funcNo == static_cast<int>(Fn::Prototype)) {
+      offset = offsetof(PrototypeRec, TableName);
+    } else if (!IsTableFunction(funcNo)) {
+      continue;
+    }
+    if (std::memcmp(FuncBlock[i] + offset, name16.data(), 16) == 0) return true;
+  }
+  return false;
 }
 
 void InsertFile(std::string& title, std::string& fileName, int position) {

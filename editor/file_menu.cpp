@@ -9,6 +9,7 @@
 #include "document/state.h"
 #include "editor/frm_edit.h"
 #include "editor/settings.h"
+#include "editor/undo_menus.h"
 #include "ui/platform/platform.h"
 
 namespace kq {
@@ -68,8 +69,7 @@ void FrmEdit::mnuFileItem_Click(int index) {
       if (!GuardOpenDocument()) return;
       const auto chosen = AskFile(ui::FileDialogRequest::Kind::Open);
       if (!chosen) return;
-      TakeChosenFile(*chosen);
-      OpenFile(ApplFileTitle, ApplFileName);
+      OpenChosenFile(*chosen);
       break;
     }
     case 2:  // Save
@@ -108,6 +108,7 @@ void FrmEdit::mnuFileItem_Click(int index) {
       if (!chosen) return;
       std::string name = *chosen;
       std::string title = TitleOf(name);
+      const EditScope scope = editMenus_->ScopeOfInsertFile();
       InsertFile(title, name, lstEdit.ListIndex());
       break;
     }
@@ -142,6 +143,12 @@ void FrmEdit::mnuFileItem_Click(int index) {
   }
 }
 
+void FrmEdit::OpenChosenFile(const std::string& path) {
+  if (!GuardOpenDocument()) return;
+  TakeChosenFile(path);
+  OpenFile(ApplFileTitle, ApplFileName);
+}
+
 void FrmEdit::mnuFileArray_Click(int index) {
   if (index < 1 || index > 4 || !mnuFileArray[index]) return;
   if (!GuardOpenDocument()) return;
@@ -161,6 +168,7 @@ void FrmEdit::NewFile() {
   mnuDefine.SetEnabled(true);
   lstEdit.Clear();
   InitDocument();
+  editMenus_->DocumentReplaced();
 }
 
 void FrmEdit::ResetEditor() {
@@ -174,9 +182,11 @@ void FrmEdit::ResetEditor() {
   mnuPrint.SetEnabled(false);
   lstEdit.Clear();
   InitDocument();
+  editMenus_->DocumentReplaced();
 }
 
 void FrmEdit::FileOpened() {
+  editMenus_->DocumentReplaced();
   SetTitleBar();
   for (int i = 2; i <= 7; ++i) mnuFileItem[i].SetEnabled(true);
   mnuEdit.SetEnabled(true);

@@ -11,6 +11,7 @@
 #include "editor/line_editing.h"
 #include "editor/settings.h"
 #include "editor/tool_forms.h"
+#include "editor/undo_menus.h"
 #include "ui/platform/platform.h"
 
 namespace kq {
@@ -53,6 +54,7 @@ FrmEdit::FrmEdit() : ui::Form("frmEdit", std::string(kTitlePrefix) + "Untitled")
   mnuFileArray[0] = std::make_unique<ui::Menu>(*this, "mnuFileArray", "-", 0);
   BuildMenus();
   WireEvents();
+  editMenus_ = std::make_unique<EditMenus>(*this);
   Place(lblBar, 0, 0);
   Place(lstEdit, 1, 0);
   g_mainWindow = this;
@@ -293,6 +295,7 @@ void FrmEdit::mnuSpeechItem_Click(int index) {
 // ---- Menus that show other forms
 
 void FrmEdit::mnuEditItem_Click(int index) {
+  const EditScope scope = editMenus_->ScopeOfEditItem(index);
   switch (index) {
     case 0:
       AddLine(*this);
@@ -316,6 +319,7 @@ void FrmEdit::mnuEditItem_Click(int index) {
 
 void FrmEdit::mnuDefineItem_Click(int index) {
   if (index < 0 || index > 6) return;  // item 7 only opens its submenu
+  const EditScope scope = editMenus_->ScopeOfDefineItem(index);
   DefineItemIndex = static_cast<int16_t>(index);
   if (index == 0) {
     ShowDefineVariables();

@@ -14,6 +14,8 @@
 
 namespace kq {
 
+class EditMenus;
+
 // A rectangle in twips.
 struct Rect {
   int left = 0;
@@ -139,6 +141,8 @@ class FrmEdit : public ui::Form {
   void ConfirmChangedFile(const std::string& operation, bool& cancel);
   void NewFile();
   void ResetEditor();
+  // File > Open once a file is chosen (also a file named on the command line).
+  void OpenChosenFile(const std::string& path);
   // What the window does after the file routines opened a file.
   void FileOpened();
   void LoadRecentFiles();
@@ -147,6 +151,8 @@ class FrmEdit : public ui::Form {
   void SetTitleBar();
   // The unload procedure: window settings written, help windows closed.
   void UnloadProcedure();
+
+  EditMenus& Extras() { return *editMenus_; }
 
   // ---- Geometry, in twips.
   const Rect& BarRect() const { return bar_; }
@@ -184,6 +190,7 @@ class FrmEdit : public ui::Form {
   std::string recentFileName_[4];
   std::string iniFileName_;
   std::string helpFile_;
+  std::unique_ptr<EditMenus> editMenus_;  // Undo, Redo, Cut, Copy, Paste; last, so it goes first
 };
 
 // The main window while it exists (the file routines and the runner reach it here).

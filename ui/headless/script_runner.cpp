@@ -1,6 +1,9 @@
 #include "ui/headless/script_runner.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -15,6 +18,7 @@
 #include "ui/model/media_control.h"
 #include "ui/model/menu.h"
 #include "ui/model/scroll_bar.h"
+#include "ui/platform/clipboard.h"
 
 namespace ui {
 
@@ -144,6 +148,8 @@ class Runner {
     if (head == "setting") return Setting(t);
     if (head == "show") return Show(t);
     if (head == "dump") return Dump(t);
+    if (head == "clipboard") return ClipboardLine(t);
+    if (head == "samefile") return SameFile(t);
     // The file replies queued so far are for this line and the dialogs it opens.
     std::vector<int> queuedAt;
     queuedAt.swap(awaiting_);
@@ -193,6 +199,43 @@ class Runner {
     Arity(t, 3);
     if (!t[1].quoted || !t[2].quoted) Wrong("setting takes a quoted key and a quoted value");
     p_.SaveSetting("KQEdit", "Settings", t[1].text, t[2].text);
+  }
+
+  // clipboard "type" "bytes" puts one format on the clipboard (as another program would);
+  // clipboard show prints the formats it holds and its plain text.
+  void ClipboardLine(const std::vector<Token>& t) {
+    if (t.size() == 2 && !t[1].quoted && t[1].text == "show") {
+      Json j;
+      j.Set("event", "clipboard");
+      Json::Array formats;
+      const ClipboardData data = clipboard().Get();
+      for (const auto& entry : data) formats.emplace_back(entry.first);
+      j.Set("formats", std::move(formats));
+      const auto text = data.find(kPlainTextMime);
+      j.Set("text", text == data.end() ? Json() : Json(text->second));
+      p_.Record(std::move(j));
+      return;
+    }
+    Arity(t, 3);
+    if (!t[1].quoted || !t[2].quoted) Wrong("clipboard takes a quoted type and quoted bytes");
+    clipboard().Set(ClipboardData{{t[1].text, t[2].text}});
+  }
+
+  // samefile "a" "b" tells whether two files hold the same bytes.
+  void SameFile(const std::vector<Token>& t) {
+    Arity(t, 3);
+    if (!t[1].quoted || !t[2].quoted) Wrong("samefile takes two quoted paths");
+    auto read = [](const std::string& path) -> std::optional<std::string> {
+      std::ifstream in(path, std::ios::binary);
+      if (!in) return std::nullopt;
+      return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    };
+    const auto a = read(t[1].text);
+    const auto b = read(t[2].text);
+    Json j;
+    j.Set("event", "samefile");
+    j.Set("same", a.has_value() && b.has_value() && *a == *b);
+    p_.Record(std::move(j));
   }
 
   void Dump(const std::vector<Token>& t) {
@@ -456,6 +499,7 @@ class Runner {
 
 int RunScriptOn(HeadlessPlatform& platform, std::istream& script, const ScriptHooks& hooks) {
   SetPlatform(&platform);
+  clipboard().Set({});  // every run starts with an empty clipboard
   Runner runner(platform, hooks);
   const int status = runner.Run(script);
   if (hooks.stop) {
