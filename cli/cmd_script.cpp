@@ -12,8 +12,8 @@
 #include "document/state.h"
 #include "editor/frm_edit.h"
 #include "ui/headless/headless_platform.h"
-#include "ui/platform/codepage.h"
 #include "ui/model/menu.h"
+#include "ui/platform/codepage.h"
 #include "ui/platform/platform.h"
 
 namespace kqx {
@@ -48,7 +48,7 @@ constexpr std::string_view kProgramForms[] = {
     "frmGotoFunc", "frmGotoLabel", "frmGotoPath", "frmGotoVar",
     "frmInStr", "frmInsertRec", "frmLabel", "frmLeftStr",
     "frmLenStr", "frmLineNo", "frmListen", "frmOnOffHook",
-    "frmPrototype", "frmRSwitch", "frmRandom", "frmRecordSound",
+    "frmPrompts", "frmPrototype", "frmRSwitch", "frmRandom", "frmRecordSound",
     "frmRecordingWave", "frmRemark", "frmReturn", "frmRightStr",
     "frmRun", "frmSayFile", "frmSayNo", "frmSelectRec",
     "frmSoundFileCounter", "frmTrimStr", "frmUpdateRec", "frmVarExp",
