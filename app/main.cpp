@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "editor/frm_edit.h"
+#include "editor/frm_prompts.h"
 #include "ui/qt/qt_platform.h"
 
 int main(int argc, char** argv) {
@@ -13,6 +14,8 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);  // the form decides when it is closed
   ui::qt::QtPlatform platform;
   ui::SetPlatform(&platform);
+  // Between two spoken prompts the window takes its events, so that Cancel can be clicked.
+  kq::frmPrompts::Pump = [] { QCoreApplication::processEvents(); };
   auto form = std::make_unique<kq::FrmEdit>();  // the first stage of start-up
   platform.Show(*form);
   const int code = QApplication::exec();

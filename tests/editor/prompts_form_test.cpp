@@ -35,7 +35,8 @@ class PromptsFormTest : public test::EditorTest {
  protected:
   void SetUp() override {
     EditorTest::SetUp();
-    dir_ = fs::path(::testing::TempDir()) / "kqpromptsform";
+    dir_ = fs::path(::testing::TempDir()) / "kqpromptsform" /
+           ::testing::UnitTest::GetInstance()->current_test_info()->name();
     fs::remove_all(dir_);
     fs::create_directories(dir_ / "voice");
     frmPrompts::OpenSpeaker = [this](std::string&) {
