@@ -1,6 +1,8 @@
 #include "prompts/prompt_texts.h"
 
 #include <cctype>
+#include <fstream>
+#include <sstream>
 #include <vector>
 
 namespace kq::prompts {
@@ -125,6 +127,20 @@ bool ParsePromptTexts(std::string_view csv, PromptTexts& texts, std::string& err
   texts = std::move(read);
   if (names != nullptr) *names = std::move(order);
   return true;
+}
+
+bool ReadPromptTextsFile(const std::string& path, PromptTexts& texts, std::string& error,
+                         std::vector<std::string>* names) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in) {
+    error = "cannot read " + path;
+    return false;
+  }
+  std::ostringstream csv;
+  csv << in.rdbuf();
+  if (ParsePromptTexts(csv.str(), texts, error, names)) return true;
+  error = path + " " + error;
+  return false;
 }
 
 std::string WordsOfFileName(std::string_view fileName) {

@@ -20,6 +20,11 @@ using PromptTexts = std::map<std::string, std::string>;
 bool ParsePromptTexts(std::string_view csv, PromptTexts& texts, std::string& error,
                       std::vector<std::string>* names = nullptr);
 
+// Reads the texts file at `path` (a name on disk) with ParsePromptTexts; false with `error`
+// saying why ("cannot read ...", or the row that is wrong, with the file's name).
+bool ReadPromptTextsFile(const std::string& path, PromptTexts& texts, std::string& error,
+                         std::vector<std::string>* names = nullptr);
+
 // The key of a file name in PromptTexts.
 std::string PromptKey(std::string_view fileName);
 

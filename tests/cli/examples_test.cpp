@@ -202,8 +202,10 @@ TEST_F(ExamplesTest, BadVoiceAndBadTextsAreRefusedWithNothingMade) {
             std::string::npos)
       << err_.str();
   EXPECT_TRUE(fs::is_empty(here / "voice"));
-  EXPECT_EQ(Run({"prompts", "--into", into}), 1);  // --into needs the texts
-  EXPECT_NE(err_.str().find("usage: kqx prompts"), std::string::npos);
+  EXPECT_EQ(Run({"prompts", "--into", into}), kqx::kExitUsage);  // --into needs the texts
+  EXPECT_NE(err_.str().find("--texts"), std::string::npos) << err_.str();
+  EXPECT_EQ(Run({"prompts"}), kqx::kExitUsage);  // neither FILE nor --into
+  EXPECT_NE(err_.str().find("give either FILE or --into DIR"), std::string::npos) << err_.str();
 }
 
 }  // namespace
