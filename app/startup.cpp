@@ -13,6 +13,7 @@
 
 #include "editor/desktop_files.h"
 #include "editor/frm_edit.h"
+#include "editor/frm_prompts.h"
 #include "ui/qt/cp1252.h"
 #include "ui/qt/form_windows.h"
 #include "ui/qt/qt_clipboard.h"
@@ -90,6 +91,8 @@ int RunKQEdit(int argc, char** argv) {
       QIcon(QString::fromStdString(platform.DataDirectory() + "/kqedit.svg")));
   ui::qt::QtClipboard clipboard;
   ui::SetClipboard(&clipboard);
+  // Between two spoken prompts the window takes its events, so that Cancel can be clicked.
+  frmPrompts::Pump = [] { QCoreApplication::processEvents(); };
   auto form = std::make_unique<FrmEdit>();  // the first stage of start-up
   StartEditor(platform, *form, QApplication::arguments());
   const int code = QApplication::exec();

@@ -49,7 +49,7 @@ constexpr std::string_view kProgramForms[] = {
     "frmGotoFunc", "frmGotoLabel", "frmGotoPath", "frmGotoVar",
     "frmInStr", "frmInsertRec", "frmLabel", "frmLeftStr",
     "frmLenStr", "frmLineNo", "frmListen", "frmOnOffHook",
-    "frmPrototype", "frmRSwitch", "frmRandom", "frmRecordSound",
+    "frmPrompts", "frmPrototype", "frmRSwitch", "frmRandom", "frmRecordSound",
     "frmRecordingWave", "frmRemark", "frmReturn", "frmRightStr",
     "frmRun", "frmSayFile", "frmSayNo", "frmSelectRec",
     "frmSoundFileCounter", "frmTrimStr", "frmUpdateRec", "frmVarExp",

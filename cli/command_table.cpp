@@ -8,7 +8,7 @@ namespace {
 
 constexpr AddCommandFn kAll[] = {
     AddInfoCommand, AddLinesCommand,   AddResaveCommand, AddCompileCommand,
-    AddListCommand, AddConvertCommand, AddScriptCommand,
+    AddListCommand, AddConvertCommand, AddPromptsCommand, AddScriptCommand,
 };
 
 }  // namespace

@@ -45,6 +45,7 @@ void AddResaveCommand(CLI::App& app, Session& session);
 void AddCompileCommand(CLI::App& app, Session& session);
 void AddListCommand(CLI::App& app, Session& session);
 void AddConvertCommand(CLI::App& app, Session& session);
+void AddPromptsCommand(CLI::App& app, Session& session);
 void AddScriptCommand(CLI::App& app, Session& session);
 
 }  // namespace kqx

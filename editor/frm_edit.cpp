@@ -8,6 +8,7 @@
 #include "document/state.h"
 #include "document/text.h"
 #include "editor/commands.h"
+#include "editor/frm_prompts.h"
 #include "editor/line_editing.h"
 #include "editor/settings.h"
 #include "editor/tool_forms.h"
@@ -117,6 +118,8 @@ void FrmEdit::BuildMenus() {
     mnuGoto.Append(mnuGotoItem[i]);
   }
   for (auto& item : mnuHelpItem) mnuHelp.Append(item);
+  AddMenu(mnuTools);
+  mnuTools.Append(mnuToolsPrompts);
 }
 
 void FrmEdit::WireEvents() {
@@ -130,6 +133,7 @@ void FrmEdit::WireEvents() {
   }
   for (int i = 0; i < kGotoItems; ++i) mnuGotoItem[i].OnClick = [this, i] { mnuGotoItem_Click(i); };
   for (int i = 0; i < kHelpItems; ++i) mnuHelpItem[i].OnClick = [this, i] { mnuHelpItem_Click(i); };
+  mnuToolsPrompts.OnClick = [] { MakeMissingPromptsCommand(); };
   mnuCompile.OnClick = [this] { mnuCompile_Click(); };
   mnuPrint.OnClick = [this] { mnuPrint_Click(); };
   mnuRecording.OnClick = [this] { mnuRecording_Click(); };

@@ -117,6 +117,10 @@ class FrmEdit : public ui::Form {
                                    {*this, "mnuHelpItem", "-", 3},
                                    {*this, "mnuHelpItem", "&About", 4}};
 
+  // Beyond the described menus: Tools.
+  ui::Menu mnuTools{*this, "mnuTools", "&Tools"};
+  ui::Menu mnuToolsPrompts{*this, "mnuToolsPrompts", "Make Missing &Prompts..."};
+
   // ---- Menu handlers, dispatched by index.
   void mnuFileItem_Click(int index);
   void mnuFileArray_Click(int index);

@@ -14,6 +14,7 @@
 #include <QListView>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -31,6 +32,7 @@
 #include "document/state.h"
 #include "document/text.h"
 #include "editor/frm_edit.h"
+#include "editor/frm_prompts.h"
 #include "tests/gui/editor_fixture.h"
 #include "ui/qt/form_binding.h"
 #include "ui/qt/form_windows.h"
@@ -266,6 +268,25 @@ TEST_F(EditorWindowTest, HelpMenuShowsTheManualAndClosingTheWindowClosesIt) {
   window()->close();  // nothing open: no prompts
   EXPECT_FALSE(form->Loaded());
   EXPECT_FALSE(help->isVisible());
+}
+
+TEST_F(EditorWindowTest, ToolsMenuShowsThePromptsWindowWithItsProgressBar) {
+  const QList<QAction*> menus = window()->menuBar()->actions();
+  ASSERT_FALSE(menus.isEmpty());
+  EXPECT_EQ(menus.back()->text(), "&Tools");  // a menu of its own, after the described ones
+  bool shown = false;
+  platform.QueueModal([&](QDialog& dialog, ui::qt::FormBinding& b) {
+    shown = true;
+    auto& d = static_cast<kq::frmPrompts&>(b.form());
+    EXPECT_EQ(dialog.windowTitle(), "Make Missing Prompts");
+    auto* bar = qobject_cast<QProgressBar*>(b.WidgetOf(d.prgPrompts));
+    ASSERT_NE(bar, nullptr);
+    EXPECT_EQ(bar->maximum(), 0);  // nothing named: nothing to make
+    EXPECT_FALSE(b.WidgetOf(d.cmdMake)->isEnabled());
+    QTest::mouseClick(qobject_cast<QPushButton*>(b.WidgetOf(d.cmdCancel)), Qt::LeftButton);
+  });
+  action(form->mnuToolsPrompts)->trigger();
+  EXPECT_TRUE(shown);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "ui/qt/form_binding.h"
 #include "ui/qt/media_binding.h"
+#include "ui/qt/progress_binding.h"
 #include "ui/qt/scroll_binding.h"
 
 #include <QGridLayout>
@@ -88,7 +89,11 @@ ControlBinding* FormBinding::Bind(Control& control, QWidget* parent) {
       b = std::make_unique<MediaBinding>(static_cast<MMControl&>(control), parent);
       break;
     case ControlKind::ScrollBar:
-      b = std::make_unique<ScrollBinding>(static_cast<HScrollBar&>(control), parent);
+      if (auto* progress = dynamic_cast<ProgressBar*>(&control)) {
+        b = std::make_unique<ProgressBinding>(*progress, parent);
+      } else {
+        b = std::make_unique<ScrollBinding>(static_cast<HScrollBar&>(control), parent);
+      }
       break;
     case ControlKind::Menu:
       return nullptr;  // menus belong to the bar

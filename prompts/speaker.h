@@ -1,0 +1,23 @@
+// Speech synthesis for placeholder prompts. The one place that talks to the synthesizer
+// library; the rest of the program sees text in and samples out.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "speech/wave_file.h"
+
+namespace kq::prompts {
+
+class Speaker {
+ public:
+  virtual ~Speaker() = default;
+  // Speaks `text` (UTF-8) into `pcm`. False with `error` when nothing could be spoken.
+  virtual bool Speak(const std::string& text, speech::Pcm& pcm, std::string& error) = 0;
+};
+
+// The synthesizer with a voice of a language ("en", "de", "en-us"). Null, with `error`
+// saying why, when the synthesizer's data or the voice is missing.
+std::unique_ptr<Speaker> OpenSynthSpeaker(const std::string& voice, std::string& error);
+
+}  // namespace kq::prompts
