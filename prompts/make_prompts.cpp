@@ -4,9 +4,9 @@
 #include <system_error>
 
 #include "document/file_io.h"
-#include "speech/convert.h"
-#include "speech/convert_codes.h"
-#include "speech/resample.h"
+#include "speech/codec/convert.h"
+#include "speech/codec/convert_codes.h"
+#include "speech/codec/resample.h"
 #include "ui/platform/codepage.h"
 
 namespace kq::prompts {

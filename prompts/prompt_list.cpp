@@ -7,7 +7,7 @@
 #include "document/functions.h"
 #include "document/state.h"
 #include "document/text.h"
-#include "speech/convert.h"
+#include "speech/codec/convert.h"
 #include "ui/model/list_controls.h"
 
 namespace kq::prompts {

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "speech/wave_file.h"
+#include "speech/codec/wave_file.h"
 
 namespace kq::prompts {
 

@@ -9,7 +9,7 @@
 #include <sstream>
 
 #include "cli/kqx.h"
-#include "speech/wave_file.h"
+#include "speech/codec/wave_file.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include "document/state.h"
 #include "document/text.h"
 #include "prompts/make_prompts.h"
-#include "speech/convert.h"
+#include "speech/codec/convert.h"
 #include "tests/support/doc_fixture.h"
 
 namespace {
