@@ -7,8 +7,8 @@ namespace kqx {
 namespace {
 
 constexpr AddCommandFn kAll[] = {
-    AddInfoCommand, AddLinesCommand,   AddResaveCommand, AddCompileCommand,
-    AddListCommand, AddConvertCommand, AddScriptCommand,
+    AddInfoCommand,    AddLinesCommand,  AddResaveCommand, AddCompileCommand, AddListCommand,
+    AddConvertCommand, AddScriptCommand, AddExportCommand, AddImportCommand,  AddDiffCommand,
 };
 
 }  // namespace

@@ -46,5 +46,8 @@ void AddCompileCommand(CLI::App& app, Session& session);
 void AddListCommand(CLI::App& app, Session& session);
 void AddConvertCommand(CLI::App& app, Session& session);
 void AddScriptCommand(CLI::App& app, Session& session);
+void AddExportCommand(CLI::App& app, Session& session);
+void AddImportCommand(CLI::App& app, Session& session);
+void AddDiffCommand(CLI::App& app, Session& session);
 
 }  // namespace kqx
