@@ -1,6 +1,5 @@
 // kqx export FILE.kqx [-o FILE.json]: the application as its text form, to FILE.json or
 // to standard output (where the boxes of a refused file go to the error stream instead).
-#include <fstream>
 #include <memory>
 
 #include <CLI/CLI.hpp>

@@ -1,8 +1,6 @@
 // kqx import FILE.json -o FILE.kqx: the text form back into an application file. The whole
 // JSON is checked first; a fault names its place in the JSON and nothing is written.
-#include <fstream>
 #include <memory>
-#include <sstream>
 
 #include <CLI/CLI.hpp>
 

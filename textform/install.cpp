@@ -1,5 +1,4 @@
 // Making a staged document the open one, and the DisplayLines that only a dialog can write.
-#include <algorithm>
 #include <cstring>
 
 #include "dialogs/dialogs.h"

@@ -27,7 +27,7 @@ std::string Quoted(const std::string& utf8) {
 }
 
 // The bytes of a JSON string in the system's code page.
-std::string BytesOf(const Json& j, const std::string& where) {
+std::string BytesOf(const Json& j, const Place& where) {
   std::string bytes, bad;
   if (!Utf8ToBytes(j.get_ref<const std::string&>(), bytes, bad)) {
     throw Fault(where, bad + " has no Windows-1252 character");
@@ -37,38 +37,36 @@ std::string BytesOf(const Json& j, const std::string& where) {
 
 }  // namespace
 
-std::string At(const std::string& where, const std::string& key) {
-  std::string escaped;
-  for (const char c : key) {
+std::string Place::Str() const {
+  if (parent_ == nullptr) return "/";
+  std::string path = parent_->parent_ == nullptr ? std::string() : parent_->Str();
+  path += '/';
+  if (isIndex_) return path + std::to_string(index_);
+  for (const char c : key_) {
     if (c == '~') {
-      escaped += "~0";
+      path += "~0";
     } else if (c == '/') {
-      escaped += "~1";
+      path += "~1";
     } else {
-      escaped += c;
+      path += c;
     }
   }
-  return where + "/" + escaped;
+  return path;
 }
 
-std::string At(const std::string& where, size_t index) {
-  return where + "/" + std::to_string(index);
-}
-
-const Json& Member(const Json& object, const char* key, const std::string& where) {
+const Json& Member(const Json& object, const char* key, const Place& where) {
   if (!object.is_object()) throw Fault(where, "expected an object");
   const auto it = object.find(key);
   if (it == object.end()) throw Fault(where, std::string("\"") + key + "\" is missing");
   return *it;
 }
 
-void OnlyKnown(const Json& object, std::initializer_list<const char*> known,
-               const std::string& where) {
+void OnlyKnown(const Json& object, std::initializer_list<const char*> known, const Place& where) {
   if (!object.is_object()) throw Fault(where, "expected an object");
   for (const auto& [key, value] : object.items()) {
     bool found = false;
     for (const char* k : known) found = found || key == k;
-    if (!found) throw Fault(At(where, key), "unknown member " + Quoted(key));
+    if (!found) throw Fault(Place(where, key), "unknown member " + Quoted(key));
   }
 }
 
@@ -143,7 +141,7 @@ Json ElementToJson(const Field& f, const uint8_t* at) {
   return nullptr;
 }
 
-void ElementFromJson(const Json& j, const std::string& where, const Field& f, uint8_t* at) {
+void ElementFromJson(const Json& j, const Place& where, const Field& f, uint8_t* at) {
   switch (f.kind) {
     case Kind::I32: {
       const int32_t n = I32FromJson(j, where);
@@ -189,7 +187,7 @@ Json RecordToJson(const RecordLayout& layout, const uint8_t* record) {
 
 // ---- From JSON
 
-void TextFromJson(const Json& j, const std::string& where, char* field, size_t width) {
+void TextFromJson(const Json& j, const Place& where, char* field, size_t width) {
   if (j.is_string()) {
     const std::string bytes = BytesOf(j, where);
     if (bytes.find('\0') != std::string::npos) {
@@ -209,21 +207,21 @@ void TextFromJson(const Json& j, const std::string& where, char* field, size_t w
   OnlyKnown(j, {"bytes", "fill"}, where);
   const Json& b = Member(j, "bytes", where);
   const Json& f = Member(j, "fill", where);
-  if (!b.is_string()) throw Fault(At(where, "bytes"), "expected a string");
-  if (!f.is_string()) throw Fault(At(where, "fill"), "expected a string");
-  const std::string bytes = BytesOf(b, At(where, "bytes"));
-  const std::string fill = BytesOf(f, At(where, "fill"));
+  if (!b.is_string()) throw Fault(Place(where, "bytes"), "expected a string");
+  if (!f.is_string()) throw Fault(Place(where, "fill"), "expected a string");
+  const std::string bytes = BytesOf(b, Place(where, "bytes"));
+  const std::string fill = BytesOf(f, Place(where, "fill"));
   if (bytes.size() > width) {
     throw Fault(
-        At(where, "bytes"),
+        Place(where, "bytes"),
         std::to_string(bytes.size()) + " bytes are more than the field's " + std::to_string(width));
   }
-  if (fill.size() != 1) throw Fault(At(where, "fill"), "expected one character");
+  if (fill.size() != 1) throw Fault(Place(where, "fill"), "expected one character");
   std::memset(field, fill[0], width);
   std::memcpy(field, bytes.data(), bytes.size());
 }
 
-void DisplayFromJson(const Json& j, const std::string& where, char* line, size_t width) {
+void DisplayFromJson(const Json& j, const Place& where, char* line, size_t width) {
   if (!j.is_string()) throw Fault(where, "expected a string");
   const std::string bytes = BytesOf(j, where);
   if (bytes.size() > width) {
@@ -234,7 +232,7 @@ void DisplayFromJson(const Json& j, const std::string& where, char* line, size_t
   std::memcpy(line, bytes.data(), bytes.size());
 }
 
-int32_t I32FromJson(const Json& j, const std::string& where, int64_t low, int64_t high) {
+int32_t I32FromJson(const Json& j, const Place& where, int64_t low, int64_t high) {
   const auto range = [&] {
     return "expected a whole number from " + std::to_string(low) + " to " + std::to_string(high);
   };
@@ -250,7 +248,7 @@ int32_t I32FromJson(const Json& j, const std::string& where, int64_t low, int64_
   throw Fault(where, range());
 }
 
-int32_t VarTypeFromJson(const Json& j, const std::string& where) {
+int32_t VarTypeFromJson(const Json& j, const Place& where) {
   if (j.is_string()) {
     for (const TypeName& t : kTypeNames) {
       if (j.get_ref<const std::string&>() == t.name) return t.type;
@@ -262,19 +260,20 @@ int32_t VarTypeFromJson(const Json& j, const std::string& where) {
   return I32FromJson(j, where);
 }
 
-void VarRefFromJson(const Json& j, const std::string& where, VarRef& v) {
+void VarRefFromJson(const Json& j, const Place& where, VarRef& v) {
   OnlyKnown(j, {"type", "name"}, where);
-  v.VarRefType = VarTypeFromJson(Member(j, "type", where), At(where, "type"));
-  TextFromJson(Member(j, "name", where), At(where, "name"), v.VarRefName, sizeof v.VarRefName);
+  v.VarRefType = VarTypeFromJson(Member(j, "type", where), Place(where, "type"));
+  TextFromJson(Member(j, "name", where), Place(where, "name"), v.VarRefName, sizeof v.VarRefName);
 }
 
-void LabelRefFromJson(const Json& j, const std::string& where, LabelRef& l) {
+void LabelRefFromJson(const Json& j, const Place& where, LabelRef& l) {
   OnlyKnown(j, {"name", "line"}, where);
-  TextFromJson(Member(j, "name", where), At(where, "name"), l.LabelRefName, sizeof l.LabelRefName);
-  l.LabelRefLine = I32FromJson(Member(j, "line", where), At(where, "line"));
+  TextFromJson(Member(j, "name", where), Place(where, "name"), l.LabelRefName,
+               sizeof l.LabelRefName);
+  l.LabelRefLine = I32FromJson(Member(j, "line", where), Place(where, "line"));
 }
 
-void RecordFromJson(const Json& j, const std::string& where, const RecordLayout& layout,
+void RecordFromJson(const Json& j, const Place& where, const RecordLayout& layout,
                     uint8_t* record) {
   if (!j.is_object()) throw Fault(where, "expected an object");
   for (const auto& [key, value] : j.items()) {
@@ -282,7 +281,7 @@ void RecordFromJson(const Json& j, const std::string& where, const RecordLayout&
     for (const Field& f : layout.fields) {
       if (key == f.name) field = &f;
     }
-    const std::string place = At(where, key);
+    const Place place(where, key);
     if (field == nullptr) {
       throw Fault(place, "unknown field " + Quoted(key) + " of " + layout.type);
     }
@@ -294,7 +293,7 @@ void RecordFromJson(const Json& j, const std::string& where, const RecordLayout&
       throw Fault(place, "expected an array of " + std::to_string(field->count));
     }
     for (size_t i = 0; i < field->count; ++i) {
-      ElementFromJson(value[i], At(place, i), *field, record + field->offset + i * field->width);
+      ElementFromJson(value[i], Place(place, i), *field, record + field->offset + i * field->width);
     }
   }
 }

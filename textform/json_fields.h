@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 #include <nlohmann/json.hpp>
 
@@ -21,10 +22,26 @@ namespace kq::textform {
 
 using Json = nlohmann::ordered_json;
 
-// A fault of the JSON at a place, named as a JSON pointer ("/lines/3/record/Target").
+// A place in the JSON, named as a JSON pointer ("/lines/3/record/Target") only when a
+// fault needs the name: a place refers to its parent, which must outlive it.
+class Place {
+ public:
+  Place() = default;  // the whole text, "/"
+  Place(const Place& parent, std::string_view key) : parent_(&parent), key_(key) {}
+  Place(const Place& parent, size_t index) : parent_(&parent), index_(index), isIndex_(true) {}
+  std::string Str() const;
+
+ private:
+  const Place* parent_ = nullptr;
+  std::string_view key_;
+  size_t index_ = 0;
+  bool isIndex_ = false;
+};
+
+// A fault of the JSON at a place.
 struct Fault : std::runtime_error {
-  Fault(std::string where, const std::string& what)
-      : std::runtime_error(what), place(std::move(where)) {}
+  Fault(const Place& where, const std::string& what)
+      : std::runtime_error(what), place(where.Str()) {}
   std::string place;
 };
 
@@ -37,24 +54,19 @@ Json LabelRefToJson(const LabelRef& l);
 Json RecordToJson(const RecordLayout& layout, const uint8_t* record);
 
 // ---- From JSON; each throws Fault naming `where`.
-void TextFromJson(const Json& j, const std::string& where, char* field, size_t width);
-void DisplayFromJson(const Json& j, const std::string& where, char* line, size_t width);
-int32_t I32FromJson(const Json& j, const std::string& where, int64_t low = INT32_MIN,
+void TextFromJson(const Json& j, const Place& where, char* field, size_t width);
+void DisplayFromJson(const Json& j, const Place& where, char* line, size_t width);
+int32_t I32FromJson(const Json& j, const Place& where, int64_t low = INT32_MIN,
                     int64_t high = INT32_MAX);
-int32_t VarTypeFromJson(const Json& j, const std::string& where);
-void VarRefFromJson(const Json& j, const std::string& where, VarRef& v);
-void LabelRefFromJson(const Json& j, const std::string& where, LabelRef& l);
+int32_t VarTypeFromJson(const Json& j, const Place& where);
+void VarRefFromJson(const Json& j, const Place& where, VarRef& v);
+void LabelRefFromJson(const Json& j, const Place& where, LabelRef& l);
 // Fields left out keep the bytes `record` holds already (the defaults).
-void RecordFromJson(const Json& j, const std::string& where, const RecordLayout& layout,
-                    uint8_t* record);
+void RecordFromJson(const Json& j, const Place& where, const RecordLayout& layout, uint8_t* record);
 
 // The member of an object that must be one; throws for anything else.
-const Json& Member(const Json& object, const char* key, const std::string& where);
+const Json& Member(const Json& object, const char* key, const Place& where);
 // Throws for a member not in `known`.
-void OnlyKnown(const Json& object, std::initializer_list<const char*> known,
-               const std::string& where);
-// The JSON pointer of an object member or array element below `where`.
-std::string At(const std::string& where, const std::string& key);
-std::string At(const std::string& where, size_t index);
+void OnlyKnown(const Json& object, std::initializer_list<const char*> known, const Place& where);
 
 }  // namespace kq::textform
