@@ -1,5 +1,8 @@
 #include "cli/cli_document.h"
 
+#include <fstream>
+#include <sstream>
+
 #include "document/file.h"
 #include "ui/platform/codepage.h"
 
@@ -19,6 +22,22 @@ bool OpenDocument(const std::string& path) {
   std::string title = TitleOf(name);
   kq::OpenFile(title, name);
   return !name.empty();
+}
+
+bool ReadWhole(const std::string& path, std::string& bytes) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in) return false;
+  std::ostringstream text;
+  text << in.rdbuf();
+  bytes = text.str();
+  return !in.bad();
+}
+
+bool WriteWhole(const std::string& path, const std::string& bytes) {
+  std::ofstream out(path, std::ios::binary | std::ios::trunc);
+  out << bytes;
+  out.close();
+  return static_cast<bool>(out);
 }
 
 }  // namespace kqx

@@ -15,4 +15,8 @@ std::string SystemText(const std::string& arg);
 // was refused (its message box has been written as an event).
 bool OpenDocument(const std::string& path);
 
+// The whole of a file as bytes, and a file written whole; false when that fails.
+bool ReadWhole(const std::string& path, std::string& bytes);
+bool WriteWhole(const std::string& path, const std::string& bytes);
+
 }  // namespace kqx

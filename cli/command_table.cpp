@@ -7,8 +7,9 @@ namespace kqx {
 namespace {
 
 constexpr AddCommandFn kAll[] = {
-    AddInfoCommand, AddLinesCommand,   AddResaveCommand, AddCompileCommand,
-    AddListCommand, AddConvertCommand, AddPromptsCommand, AddScriptCommand,
+    AddInfoCommand,    AddLinesCommand,   AddResaveCommand, AddCompileCommand,
+    AddListCommand,    AddConvertCommand, AddPromptsCommand, AddScriptCommand,
+    AddExportCommand,  AddImportCommand,  AddDiffCommand,
 };
 
 }  // namespace

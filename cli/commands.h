@@ -47,5 +47,8 @@ void AddListCommand(CLI::App& app, Session& session);
 void AddConvertCommand(CLI::App& app, Session& session);
 void AddPromptsCommand(CLI::App& app, Session& session);
 void AddScriptCommand(CLI::App& app, Session& session);
+void AddExportCommand(CLI::App& app, Session& session);
+void AddImportCommand(CLI::App& app, Session& session);
+void AddDiffCommand(CLI::App& app, Session& session);
 
 }  // namespace kqx

@@ -96,6 +96,9 @@ void FrmEdit::BuildMenus() {
   mnuFileItem[2].SetShortcut("F2");
   mnuFileItem[6].SetEnabled(false);
   mnuFile.Append(*mnuFileArray[0]);
+  for (ui::Menu* item : {&mnuFileTextBar, &mnuFileExportText, &mnuFileImportText}) {
+    mnuFile.Append(*item);
+  }
 
   const char* editKeys[kEditItems] = {"Ctrl+A", "Ctrl+I", "Ctrl+M", "Ctrl+D", ""};
   for (int i = 0; i < kEditItems; ++i) {
@@ -139,6 +142,8 @@ void FrmEdit::WireEvents() {
   mnuRecording.OnClick = [this] { mnuRecording_Click(); };
   mnuListen.OnClick = [this] { mnuListen_Click(); };
   mnuConvert.OnClick = [this] { mnuConvert_Click(); };
+  mnuFileExportText.OnClick = [this] { mnuFileExportText_Click(); };
+  mnuFileImportText.OnClick = [this] { mnuFileImportText_Click(); };
   lstEdit.OnDblClick = [this] { lstEdit_DblClick(); };
   lstEdit.OnKeyDown = [this](int& keyCode, int shift) { lstEdit_KeyDown(keyCode, shift); };
   lstEdit.OnKeyPress = [this](int& keyAscii) { lstEdit_KeyPress(keyAscii); };

@@ -67,6 +67,10 @@ class FrmEdit : public ui::Form {
                                    {*this, "mnuFileItem", "E&xit", 9}};
   // Item 0 is the separator; items 1 to 4 are the recent files, created at run time.
   std::unique_ptr<ui::Menu> mnuFileArray[5];
+  // Behind the described items and the recent files.
+  ui::Menu mnuFileTextBar{*this, "mnuFileTextBar", "-"};
+  ui::Menu mnuFileExportText{*this, "mnuFileExportText", "Export as &Text..."};
+  ui::Menu mnuFileImportText{*this, "mnuFileImportText", "I&mport Text..."};
 
   ui::Menu mnuEdit{*this, "mnuEdit", "&Edit"};
   ui::Menu mnuEditItem[kEditItems]{{*this, "mnuEditItem", "&Add", 0},
@@ -134,6 +138,9 @@ class FrmEdit : public ui::Form {
   void mnuRecording_Click();
   void mnuListen_Click();
   void mnuConvert_Click();
+  // File > Export as Text, Import Text (text_form_menu.cpp).
+  void mnuFileExportText_Click();
+  void mnuFileImportText_Click();
 
   // ---- The list's own paths, which do not look at the menus.
   void lstEdit_DblClick();

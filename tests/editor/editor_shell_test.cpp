@@ -336,9 +336,11 @@ TEST_F(EditorTest, RecentFilesKeepTheirOrderAndTheFourthFallsOut) {
   EXPECT_EQ("/b.kqx", Settings()["RecentFileName4"]);
   ASSERT_NE(nullptr, f.mnuFileArray[4]);
   EXPECT_EQ("&4 /b.kqx", f.mnuFileArray[4]->Caption());
-  // The items stand behind the separator, in their order.
+  // The items stand behind the separator, in their order, before the text form's items.
   const auto& items = f.mnuFile.Items();
-  ASSERT_EQ(static_cast<size_t>(kFileItems + 5), items.size());
+  ASSERT_EQ(static_cast<size_t>(kFileItems + 5 + 3), items.size());
+  EXPECT_EQ(&f.mnuFileTextBar, items[kFileItems + 5]);
+  EXPECT_EQ(&f.mnuFileImportText, items.back());
   EXPECT_EQ(f.mnuFileArray[0].get(), items[kFileItems]);
   EXPECT_EQ(f.mnuFileArray[1].get(), items[kFileItems + 1]);
   EXPECT_EQ(f.mnuFileArray[4].get(), items[kFileItems + 4]);
