@@ -9,6 +9,10 @@ const Command kCommands[] = {
     {"compile", "IN [-o OUT]", CmdCompile},
     {"list", "IN [-o OUT] [--now \"YYYY-MM-DD HH:MM:SS\"]", CmdList},
     {"convert", "IN OUT [--format N]", CmdConvert},
+    {"run",
+     "FILE [--keys KEYS] [--hangup] [--call CALL.json] [--tables DIR] [--db FILE] [--sandbox DIR] "
+     "[--seed N] [--max-steps N] [--decode]",
+     CmdRun},
     {"script", "FILE|- [--settings FILE] [--data DIR] [--home DIR] [--screen W H]", CmdScript},
     {nullptr, nullptr, nullptr},
 };

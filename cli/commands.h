@@ -12,5 +12,6 @@ int CmdCompile(CliContext& ctx);
 int CmdList(CliContext& ctx);
 int CmdScript(CliContext& ctx);
 int CmdConvert(CliContext& ctx);
+int CmdRun(CliContext& ctx);
 
 }  // namespace kqx
