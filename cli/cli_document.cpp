@@ -14,18 +14,11 @@ std::string SystemText(const std::string& arg) {
   return ui::Utf8ToCp1252(arg);
 }
 
-bool OpenDocument(CliContext& ctx, const std::string& path) {
-  (void)ctx;
+bool OpenDocument(const std::string& path) {
   std::string name = SystemText(path);
   std::string title = TitleOf(name);
   kq::OpenFile(title, name);
   return !name.empty();
-}
-
-bool ExpectArgs(CliContext& ctx, size_t count, const char* usage) {
-  if (ctx.args.size() == count) return true;
-  ctx.err << "usage: kqx " << usage << "\n";
-  return false;
 }
 
 }  // namespace kqx

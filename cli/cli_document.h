@@ -3,21 +3,16 @@
 
 #include <string>
 
-#include "cli/kqx.h"
-
 namespace kqx {
 
 // The file name behind the last "/".
 std::string TitleOf(const std::string& path);
 
-// Opens the file as the document through the editor's own routine. False when the file
-// was refused (its message box has been written as an event).
 // A path from the command line (UTF-8) as the system's Windows-1252 text.
 std::string SystemText(const std::string& arg);
 
-bool OpenDocument(CliContext& ctx, const std::string& path);
-
-// Checks the number of arguments; prints the usage line and returns false otherwise.
-bool ExpectArgs(CliContext& ctx, size_t count, const char* usage);
+// Opens the file as the document through the editor's own routine. False when the file
+// was refused (its message box has been written as an event).
+bool OpenDocument(const std::string& path);
 
 }  // namespace kqx

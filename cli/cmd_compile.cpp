@@ -1,6 +1,10 @@
 // kqx compile IN [-o OUT]: opens an application, compiles it as the Compile menu does,
 // prints every box as a JSON line and then the result; a successful compile saves the
 // whole document to OUT (IN when no -o is given).
+#include <memory>
+
+#include <CLI/CLI.hpp>
+
 #include "cli/cli_document.h"
 #include "cli/commands.h"
 #include "document/file.h"
@@ -11,21 +15,16 @@
 
 namespace kqx {
 
-int CmdCompile(CliContext& ctx) {
-  const char* usage = "compile IN [-o OUT]";
+namespace {
+
+struct CompileArgs {
   std::string in, out;
-  const auto& a = ctx.args;
-  if (a.size() == 1) {
-    in = a[0];
-  } else if (a.size() == 3 && a[1] == "-o") {
-    in = a[0];
-    out = a[2];
-  } else {
-    ctx.err << "usage: kqx " << usage << "\n";
-    return kExitRefused;
-  }
-  if (out.empty()) out = in;
-  if (!OpenDocument(ctx, in)) return kExitRefused;
+};
+
+int Compile(Session& session, const CompileArgs& a) {
+  const std::string& in = a.in;
+  const std::string out = a.out.empty() ? in : a.out;
+  if (!OpenDocument(in)) return kExitRefused;
   kq::ApplFileName = in;
   kq::ApplFileTitle = TitleOf(in);
 
@@ -37,7 +36,7 @@ int CmdCompile(CliContext& ctx) {
   result.Set("event", "result");
   result.Set("compiled", compiled);
   result.Set("selected", std::move(selected));
-  ctx.platform.Record(std::move(result));
+  session.platform.Record(std::move(result));
   if (!compiled) return kExitRefused;
 
   std::string name = SystemText(out);
@@ -46,6 +45,17 @@ int CmdCompile(CliContext& ctx) {
   kq::SaveFile(title, name, true, 0, count - 1, count);
   // A save that did not finish leaves the document changed; its box has been printed.
   return kq::ChangedFlag ? kExitRefused : kExitOk;
+}
+
+}  // namespace
+
+void AddCompileCommand(CLI::App& app, Session& session) {
+  auto a = std::make_shared<CompileArgs>();
+  CLI::App* cmd = app.add_subcommand(
+      "compile", "Compile an application as the Compile menu does and save it when it compiles");
+  cmd->add_option("IN", a->in, "the application file")->required();
+  cmd->add_option("-o,--output", a->out, "the file to save (IN when not given)");
+  OnRun(*cmd, session, [a, &session] { return Compile(session, *a); });
 }
 
 }  // namespace kqx

@@ -1,5 +1,8 @@
 // kqx info FILE: the header of an application as one JSON object.
 #include <fstream>
+#include <memory>
+
+#include <CLI/CLI.hpp>
 
 #include "cli/cli_document.h"
 #include "cli/commands.h"
@@ -77,13 +80,9 @@ ui::Json Tables() {
   return list;
 }
 
-}  // namespace
-
-int CmdInfo(CliContext& ctx) {
-  if (!ExpectArgs(ctx, 1, "info FILE")) return kExitRefused;
-  const std::string& path = ctx.args[0];
+int Info(Session& session, const std::string& path) {
   const std::string version = FileVersion(path);
-  if (!OpenDocument(ctx, path)) return kExitRefused;
+  if (!OpenDocument(path)) return kExitRefused;
   ui::Json j;
   j.Set("version", version);
   j.Set("compiled", kq::PrgHdr.CompiledFlag != 0);
@@ -91,8 +90,17 @@ int CmdInfo(CliContext& ctx) {
   j.Set("variables", Variables());
   j.Set("paths", Paths());
   j.Set("tables", Tables());
-  ctx.out << j.Dump() << "\n";
+  session.out << j.Dump() << "\n";
   return kExitOk;
+}
+
+}  // namespace
+
+void AddInfoCommand(CLI::App& app, Session& session) {
+  auto file = std::make_shared<std::string>();
+  CLI::App* cmd = app.add_subcommand("info", "The header of an application as one JSON object");
+  cmd->add_option("FILE", *file, "the application file")->required();
+  OnRun(*cmd, session, [file, &session] { return Info(session, *file); });
 }
 
 }  // namespace kqx

@@ -2,6 +2,9 @@
 // as the Print menu writes it to its text file, to OUT or to standard output. --now fixes
 // the date and time of the first row.
 #include <fstream>
+#include <memory>
+
+#include <CLI/CLI.hpp>
 
 #include "cli/cli_document.h"
 #include "cli/commands.h"
@@ -11,28 +14,20 @@
 
 namespace kqx {
 
-int CmdList(CliContext& ctx) {
-  const char* usage = "list IN [-o OUT] [--now \"YYYY-MM-DD HH:MM:SS\"]";
+namespace {
+
+struct ListArgs {
   std::string in, out, now;
-  bool bad = ctx.args.empty();
-  for (size_t i = 0; i < ctx.args.size() && !bad; ++i) {
-    const std::string& a = ctx.args[i];
-    if ((a == "-o" || a == "--now") && i + 1 < ctx.args.size()) {
-      (a == "-o" ? out : now) = ctx.args[++i];
-    } else if (in.empty() && !a.empty() && a[0] != '-') {
-      in = a;
-    } else {
-      bad = true;
-    }
-  }
-  if (bad || in.empty()) {
-    ctx.err << "usage: kqx " << usage << "\n";
-    return kExitRefused;
-  }
+};
+
+int List(Session& session, const ListArgs& a) {
+  const std::string& in = a.in;
+  const std::string& out = a.out;
+  std::string now = a.now;
   // Written to standard output, the listing stays alone there: the boxes go to the
   // error stream.
-  if (out.empty()) ctx.platform.SetEventStream(&ctx.err);
-  if (!OpenDocument(ctx, in)) return kExitRefused;
+  if (out.empty()) session.platform.SetEventStream(&session.err);
+  if (!OpenDocument(in)) return kExitRefused;
   kq::ApplFileName = in;
   kq::ApplFileTitle = TitleOf(in);
   if (now.empty()) now = kq::NowText();
@@ -41,18 +36,31 @@ int CmdList(CliContext& ctx) {
   if (!out.empty()) {
     file.open(out, std::ios::binary | std::ios::trunc);
     if (!file) {
-      ctx.err << "kqx: can't write " << out << "\n";
+      session.err << "kqx: can't write " << out << "\n";
       return kExitRefused;
     }
   }
-  std::ostream& sink = out.empty() ? ctx.out : file;
+  std::ostream& sink = out.empty() ? session.out : file;
   try {
     kq::WriteListing([&](const std::string& row) { sink << row << kq::kRowEnd; }, now);
   } catch (const kq::ListingFault& fault) {
-    ctx.err << "kqx: the listing stops: " << fault.what() << "\n";
+    session.err << "kqx: the listing stops: " << fault.what() << "\n";
     return kExitRefused;
   }
   return kExitOk;
+}
+
+}  // namespace
+
+void AddListCommand(CLI::App& app, Session& session) {
+  auto a = std::make_shared<ListArgs>();
+  CLI::App* cmd = app.add_subcommand(
+      "list", "The listing text of an application, as the Print menu writes it to a file");
+  cmd->add_option("IN", a->in, "the application file")->required();
+  cmd->add_option("-o,--output", a->out, "the file to write (standard output when not given)");
+  cmd->add_option("--now", a->now, "the date and time of the first row")
+      ->type_name("\"YYYY-MM-DD HH:MM:SS\"");
+  OnRun(*cmd, session, [a, &session] { return List(session, *a); });
 }
 
 }  // namespace kqx

@@ -3,6 +3,9 @@
 // simulated call and prints the trace as JSON lines. An application that is not compiled
 // is compiled in memory first; a compile fault prints its box and nothing runs.
 #include <filesystem>
+#include <memory>
+
+#include <CLI/CLI.hpp>
 
 #include "cli/cli_document.h"
 #include "cli/commands.h"
@@ -15,104 +18,66 @@ namespace kqx {
 
 namespace {
 
-bool ParseNumber(const std::string& text, int64_t& out) {
-  try {
-    size_t used = 0;
-    out = std::stoll(text, &used);
-    return used == text.size() && out >= 0;
-  } catch (const std::exception&) {
-    return false;
-  }
-}
+struct RunArgs {
+  kq::sim::RunOptions options;
+  std::string keys;
+};
 
-// The options after FILE; false with a message on a wrong one.
-bool ParseRunOptions(CliContext& ctx, kq::sim::RunOptions& o) {
-  const auto& a = ctx.args;
-  for (size_t i = 1; i < a.size(); ++i) {
-    const std::string& opt = a[i];
-    auto value = [&](std::string& into) {
-      if (i + 1 >= a.size()) {
-        ctx.err << "kqx run: " << opt << " needs a value\n";
-        return false;
-      }
-      into = a[++i];
-      return true;
-    };
-    std::string v;
-    int64_t n = 0;
-    if (opt == "--keys") {
-      if (!value(v)) return false;
-      o.keys = v;
-    } else if (opt == "--hangup") {
-      o.hangup = true;
-    } else if (opt == "--decode") {
-      o.decodePrompts = true;
-    } else if (opt == "--call") {
-      if (!value(o.callFile)) return false;
-    } else if (opt == "--tables") {
-      if (!value(o.tablesDir)) return false;
-    } else if (opt == "--db") {
-      if (!value(o.dbFile)) return false;
-    } else if (opt == "--sandbox") {
-      if (!value(o.sandboxDir)) return false;
-    } else if (opt == "--seed" || opt == "--max-steps") {
-      if (!value(v)) return false;
-      if (!ParseNumber(v, n) || (opt == "--max-steps" && n == 0)) {
-        ctx.err << "kqx run: " << opt << " needs a whole number" << (n == 0 ? " above 0" : "")
-                << "\n";
-        return false;
-      }
-      if (opt == "--seed")
-        o.seed = static_cast<uint64_t>(n);
-      else
-        o.maxSteps = n;
-    } else {
-      ctx.err << "kqx run: unknown option '" << opt << "'\n";
-      return false;
-    }
-  }
-  return true;
-}
-
-}  // namespace
-
-int CmdRun(CliContext& ctx) {
-  const char* usage =
-      "run FILE [--keys KEYS] [--hangup] [--call CALL.json] [--tables DIR] [--db FILE] "
-      "[--sandbox DIR] [--seed N] [--max-steps N] [--decode]";
-  if (ctx.args.empty() || ctx.args[0].rfind("--", 0) == 0) {
-    ctx.err << "usage: kqx " << usage << "\n";
-    return kExitRefused;
-  }
-  kq::sim::RunOptions o;
-  o.appFile = ctx.args[0];
-  if (!ParseRunOptions(ctx, o)) return kExitRefused;
+int Run(Session& session, RunArgs& a) {
+  kq::sim::RunOptions& o = a.options;
   // Opening a file that is not there would create it: refuse before.
   std::error_code ec;
   if (!std::filesystem::is_regular_file(o.appFile, ec)) {
-    ctx.err << "kqx run: " << o.appFile << ": no such file\n";
+    session.err << "kqx run: " << o.appFile << ": no such file\n";
     return kExitRefused;
   }
-  if (!OpenDocument(ctx, o.appFile)) return kExitRefused;
+  if (!OpenDocument(o.appFile)) return kExitRefused;
   o.speechFormat = kq::SpeechAudioFormat;
 
   if (kq::PrgHdr.CompiledFlag == 0) {
     // The compile's boxes are printed only when it fails: its success box is no part of
     // the trace.
-    ctx.platform.SetEventStream(nullptr);
-    const size_t before = ctx.platform.Events().size();
+    session.platform.SetEventStream(nullptr);
+    const size_t before = session.platform.Events().size();
     const bool compiled = kq::Compile();
-    ctx.platform.SetEventStream(&ctx.out);
+    session.platform.SetEventStream(&session.out);
     if (!compiled) {
-      const auto& events = ctx.platform.Events();
+      const auto& events = session.platform.Events();
       for (size_t i = before; i < events.size(); ++i) {
-        if (events[i].kind == "msgbox") ctx.out << events[i].ToJson() << "\n";
+        if (events[i].kind == "msgbox") session.out << events[i].ToJson() << "\n";
       }
       return kExitRefused;
     }
     kq::PrgHdr.CompiledFlag = -1;
   }
-  return kq::sim::RunDocument(o, ctx.out, ctx.err);
+  return kq::sim::RunDocument(o, session.out, session.err);
+}
+
+}  // namespace
+
+void AddRunCommand(CLI::App& app, Session& session) {
+  auto a = std::make_shared<RunArgs>();
+  kq::sim::RunOptions& o = a->options;
+  CLI::App* cmd = app.add_subcommand(
+      "run", "Run an application as one simulated call and print its trace as JSON lines");
+  cmd->add_option("FILE", o.appFile, "the application file")->required();
+  CLI::Option* keys = cmd->add_option(
+      "--keys", a->keys, "the keys the caller presses, each as soon as the application listens");
+  cmd->add_flag("--hangup", o.hangup, "the caller hangs up when the keys have run out");
+  cmd->add_option("--call", o.callFile, "the whole call as JSON (see the manual)");
+  cmd->add_option("--tables", o.tablesDir, "the folder of TABLE.csv files that seed the tables");
+  cmd->add_option("--db", o.dbFile, "keep the tables in this SQLite file");
+  cmd->add_option("--sandbox", o.sandboxDir,
+                  "the folder onto which the path texts are mapped (a temporary one if not "
+                  "given)");
+  cmd->add_option("--seed", o.seed, "the seed of Random");
+  cmd->add_option("--max-steps", o.maxSteps, "end the run after this many lines")
+      ->check(CLI::PositiveNumber);
+  cmd->add_flag("--decode", o.decodePrompts, "decode every prompt through the speech library");
+  OnRun(*cmd, session, [a, keys, &session] {
+    if (keys->count() > 0) a->options.keys = a->keys;
+    return Run(session, *a);
+  });
 }
 
 }  // namespace kqx

@@ -1,19 +1,19 @@
 #include "cli/cmd_script.h"
 
-#include <cstdlib>
-#include <iostream>
-
 #include <fstream>
 #include <functional>
+#include <iostream>
 #include <memory>
 #include <string_view>
+
+#include <CLI/CLI.hpp>
 
 #include "cli/commands.h"
 #include "document/state.h"
 #include "editor/frm_edit.h"
 #include "ui/headless/headless_platform.h"
-#include "ui/platform/codepage.h"
 #include "ui/model/menu.h"
+#include "ui/platform/codepage.h"
 #include "ui/platform/platform.h"
 
 namespace kqx {
@@ -114,70 +114,57 @@ ui::ScriptHooks EditorScriptHooks() {
   return hooks;
 }
 
-// kqx script FILE|- [--settings FILE] [--data DIR] [--home DIR] [--screen W H]
-int CmdScript(CliContext& ctx) {
-  const std::vector<std::string>& args = ctx.args;
-  static constexpr const char* kUsage =
-      "usage: kqx script FILE|- [--settings FILE] [--data DIR] [--home DIR] [--screen W H]\n";
+namespace {
+
+struct ScriptArgs {
+  std::string file;
   std::string settingsFile;
   std::string dataDir = ".";
   std::string homeDir = ".";
-  int screenWidth = 28800;
-  int screenHeight = 16200;
-  std::string file;
-  for (size_t i = 0; i < args.size(); ++i) {
-    const std::string& a = args[i];
-    const bool hasValue = i + 1 < args.size();
-    if (a == "--settings" && hasValue) {
-      settingsFile = args[++i];
-    } else if (a == "--data" && hasValue) {
-      dataDir = args[++i];
-    } else if (a == "--home" && hasValue) {
-      homeDir = args[++i];
-    } else if (a == "--screen" && i + 2 < args.size()) {
-      char* end1 = nullptr;
-      char* end2 = nullptr;
-      const long w = std::strtol(args[i + 1].c_str(), &end1, 10);
-      const long h = std::strtol(args[i + 2].c_str(), &end2, 10);
-      if (*end1 != '\0' || *end2 != '\0' || w <= 0 || h <= 0 || w > 1000000 || h > 1000000) {
-        ctx.err << "kqx script: --screen takes two positive numbers\n" << kUsage;
-        return kExitRefused;
-      }
-      screenWidth = static_cast<int>(w);
-      screenHeight = static_cast<int>(h);
-      i += 2;
-    } else if (file.empty() && (a == "-" || a.rfind("--", 0) != 0)) {
-      file = a;
-    } else {
-      ctx.err << "kqx script: unexpected argument " << a << "\n" << kUsage;
-      return kExitRefused;
-    }
-  }
-  if (file.empty()) {
-    ctx.err << kUsage;
-    return kExitRefused;
-  }
+  std::vector<int> screen{28800, 16200};
+};
+
+int Script(Session& session, const ScriptArgs& a) {
   std::ifstream script;
-  if (file != "-") {
-    script.open(file, std::ios::binary);
+  if (a.file != "-") {
+    script.open(a.file, std::ios::binary);
     if (!script) {
-      ctx.err << "kqx script: cannot read " << file << "\n";
+      session.err << "kqx script: cannot read " << a.file << "\n";
       return kExitRefused;
     }
   }
-  ui::HeadlessPlatform& platform = ctx.platform;
-  platform.SetScreen(screenWidth, screenHeight);
-  platform.SetDataDirectory(ui::Utf8ToCp1252(dataDir));
-  platform.SetUserDirectory(ui::Utf8ToCp1252(homeDir));
-  platform.SetTempDirectory(ui::Utf8ToCp1252(homeDir));
+  ui::HeadlessPlatform& platform = session.platform;
+  platform.SetScreen(a.screen[0], a.screen[1]);
+  platform.SetDataDirectory(ui::Utf8ToCp1252(a.dataDir));
+  platform.SetUserDirectory(ui::Utf8ToCp1252(a.homeDir));
+  platform.SetTempDirectory(ui::Utf8ToCp1252(a.homeDir));
   platform.SettingsOf("KQEdit", "Settings").clear();
-  if (!settingsFile.empty()) platform.LoadSettingsFile(settingsFile);
+  if (!a.settingsFile.empty()) platform.LoadSettingsFile(a.settingsFile);
   const int status =
-      ui::RunScriptOn(platform, file == "-" ? std::cin : script, EditorScriptHooks());
-  if (!settingsFile.empty() && !platform.SaveSettingsFile(settingsFile)) {
-    ctx.err << "kqx script: cannot write " << settingsFile << "\n";
+      ui::RunScriptOn(platform, a.file == "-" ? std::cin : script, EditorScriptHooks());
+  if (!a.settingsFile.empty() && !platform.SaveSettingsFile(a.settingsFile)) {
+    session.err << "kqx script: cannot write " << a.settingsFile << "\n";
   }
   return status;
+}
+
+}  // namespace
+
+void AddScriptCommand(CLI::App& app, Session& session) {
+  auto a = std::make_shared<ScriptArgs>();
+  CLI::App* cmd = app.add_subcommand("script",
+                                     "Drive the editor without a window from a script (- reads "
+                                     "standard input) and print what a person would see");
+  cmd->add_option("FILE", a->file, "the script, or - for standard input")->required();
+  cmd->add_option("--settings", a->settingsFile, "the settings file, read and written back");
+  cmd->add_option("--data", a->dataDir, "the program's data folder")->type_name("DIR");
+  cmd->add_option("--home", a->homeDir, "the user's folder and the temporary folder")
+      ->type_name("DIR");
+  cmd->add_option("--screen", a->screen, "the screen's width and height in twips")
+      ->expected(2)
+      ->type_name("W H")
+      ->check(CLI::Range(1, 1000000));
+  OnRun(*cmd, session, [a, &session] { return Script(session, *a); });
 }
 
 }  // namespace kqx

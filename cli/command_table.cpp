@@ -1,20 +1,22 @@
+#include <CLI/CLI.hpp>
+
 #include "cli/commands.h"
 
 namespace kqx {
 
-const Command kCommands[] = {
-    {"info", "FILE", CmdInfo},
-    {"lines", "FILE", CmdLines},
-    {"resave", "IN OUT", CmdResave},
-    {"compile", "IN [-o OUT]", CmdCompile},
-    {"list", "IN [-o OUT] [--now \"YYYY-MM-DD HH:MM:SS\"]", CmdList},
-    {"convert", "IN OUT [--format N]", CmdConvert},
-    {"run",
-     "FILE [--keys KEYS] [--hangup] [--call CALL.json] [--tables DIR] [--db FILE] [--sandbox DIR] "
-     "[--seed N] [--max-steps N] [--decode]",
-     CmdRun},
-    {"script", "FILE|- [--settings FILE] [--data DIR] [--home DIR] [--screen W H]", CmdScript},
-    {nullptr, nullptr, nullptr},
+namespace {
+
+constexpr AddCommandFn kAll[] = {
+    AddInfoCommand, AddLinesCommand,   AddResaveCommand, AddCompileCommand,
+    AddListCommand, AddConvertCommand, AddRunCommand,    AddScriptCommand,
 };
+
+}  // namespace
+
+const std::span<const AddCommandFn> kCommands{kAll};
+
+void OnRun(CLI::App& command, Session& session, std::function<int()> run) {
+  command.callback([&session, run = std::move(run)] { session.status = run(); });
+}
 
 }  // namespace kqx

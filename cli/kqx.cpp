@@ -1,30 +1,28 @@
 #include "cli/kqx.h"
 
-#include <cstring>
+#include <CLI/CLI.hpp>
 
+#include "cli/commands.h"
 #include "cli/list_form.h"
 #include "document/catalogue.h"
 #include "document/document.h"
 #include "document/state.h"
 #include "ui/headless/headless_platform.h"
 
+#ifndef KQX_VERSION
+#define KQX_VERSION "0"
+#endif
+
 namespace kqx {
 
 namespace {
 
-void Usage(std::ostream& err) {
-  err << "usage: kqx COMMAND ARGS\ncommands:\n";
-  for (const Command* c = kCommands; c->name != nullptr; ++c) {
-    err << "  " << c->name << " " << c->usage << "\n";
-  }
-}
-
 // Installs the platform and the hidden list for the life of one run, and takes them away
 // again, so that runs in one process (the tests) do not see each other.
-struct Session {
+struct RunState {
   ui::HeadlessPlatform platform;
   frmHiddenList list;
-  explicit Session(std::ostream& out) {
+  explicit RunState(std::ostream& out) {
     platform.SetEventStream(&out);
     ui::SetPlatform(&platform);
     kq::SetEditList(&list.lstEdit);
@@ -33,7 +31,7 @@ struct Session {
     kq::InitNameTables();
     kq::GetFuncRecordLength();
   }
-  ~Session() {
+  ~RunState() {
     kq::SetEditList(nullptr);
     ui::SetPlatform(nullptr);
   }
@@ -41,25 +39,33 @@ struct Session {
 
 }  // namespace
 
-int RunKqx(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-  if (args.empty()) {
-    Usage(err);
-    return kExitRefused;
-  }
-  const Command* command = nullptr;
-  for (const Command* c = kCommands; c->name != nullptr; ++c) {
-    if (args[0] == c->name) command = c;
-  }
-  if (command == nullptr) {
-    err << "kqx: unknown command '" << args[0] << "'\n";
-    Usage(err);
-    return kExitRefused;
-  }
+const char* Version() {
+  return KQX_VERSION;
+}
 
-  Session session(out);
-  CliContext ctx{{args.begin() + 1, args.end()}, out, err, session.platform};
+int RunKqx(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+  RunState state(out);
+  Session session{out, err, state.platform};
+
+  CLI::App app("kqx: inspect, compile, list, convert and script voice-response applications",
+               "kqx");
+  app.set_version_flag("--version", std::string("kqx ") + Version());
+  app.require_subcommand(1);
+  for (const AddCommandFn add : kCommands) add(app, session);
+
+  // CLI11 takes the arguments last first.
+  std::vector<std::string> reversed(args.rbegin(), args.rend());
   try {
-    return command->run(ctx);
+    app.parse(reversed);
+  } catch (const CLI::CallForHelp& e) {
+    return app.exit(e, out, err);
+  } catch (const CLI::CallForAllHelp& e) {
+    return app.exit(e, out, err);
+  } catch (const CLI::CallForVersion& e) {
+    return app.exit(e, out, err);
+  } catch (const CLI::ParseError& e) {
+    err << "kqx: " << e.what() << "\n\n" << app.help();
+    return kExitUsage;
   } catch (const ui::ProgramEnded& e) {
     ui::Json j;
     j.Set("event", "programend");
@@ -67,6 +73,7 @@ int RunKqx(const std::vector<std::string>& args, std::ostream& out, std::ostream
     out << j.Dump() << "\n";
     return kExitProgramError;
   }
+  return session.status;
 }
 
 }  // namespace kqx

@@ -146,13 +146,48 @@ TEST_F(KqxTest, ProgramErrorEndsWithTwo) {
       std::string::npos);
 }
 
-TEST_F(KqxTest, WrongUseShowsTheCommands) {
-  EXPECT_EQ(Run({}), 1);
-  EXPECT_NE(err_.str().find("resave IN OUT"), std::string::npos);
-  EXPECT_EQ(Run({"frobnicate"}), 1);
-  EXPECT_NE(err_.str().find("unknown command 'frobnicate'"), std::string::npos);
-  EXPECT_EQ(Run({"info"}), 1);
-  EXPECT_EQ(err_.str(), "usage: kqx info FILE\n");
+// The help lists every command; a command's help shows its own arguments and options.
+TEST_F(KqxTest, HelpAndVersionGoToStandardOutput) {
+  ASSERT_EQ(Run({"--help"}), 0);
+  EXPECT_EQ(err_.str(), "");
+  for (const char* command : {"info", "lines", "resave", "compile", "list", "convert", "script"}) {
+    EXPECT_NE(out_.str().find(std::string("\n  ") + command), std::string::npos) << command;
+  }
+  ASSERT_EQ(Run({"list", "--help"}), 0);
+  EXPECT_NE(out_.str().find("kqx list"), std::string::npos);
+  EXPECT_NE(out_.str().find("--now"), std::string::npos);
+  EXPECT_EQ(out_.str().find("--screen"), std::string::npos);  // that is script's
+  ASSERT_EQ(Run({"script", "-h"}), 0);
+  EXPECT_NE(out_.str().find("--screen"), std::string::npos);
+
+  ASSERT_EQ(Run({"--version"}), 0);
+  EXPECT_EQ(out_.str(), std::string("kqx ") + kqx::Version() + "\n");
+  EXPECT_EQ(err_.str(), "");
+}
+
+// Every wrong command line names the fault and shows the usage of what was asked for on
+// the error stream, and runs nothing.
+TEST_F(KqxTest, WrongUseExitsWith64) {
+  const std::string path = Sample("app.kqx");
+  const std::vector<std::pair<std::vector<std::string>, std::string>> wrong = {
+      {{}, "kqx [OPTIONS] SUBCOMMAND"},
+      {{"frobnicate"}, "kqx [OPTIONS] SUBCOMMAND"},
+      {{"info"}, "kqx info"},
+      {{"info", path, "extra"}, "kqx info"},
+      {{"lines", path, "--colour"}, "kqx lines"},
+      {{"resave", path}, "kqx resave"},
+      {{"compile", path, "-o"}, "kqx compile"},
+      {{"list", path, "--now"}, "kqx list"},
+      {{"convert", "a.wav", "b.vox", "--format", "100"}, "kqx convert"},
+  };
+  for (const auto& [args, usage] : wrong) {
+    const std::string shown = args.empty() ? "(none)" : args.back();
+    EXPECT_EQ(Run(args), kqx::kExitUsage) << shown;
+    EXPECT_EQ(out_.str(), "") << shown;
+    EXPECT_EQ(err_.str().rfind("kqx: ", 0), 0u) << shown;
+    EXPECT_NE(err_.str().find("Usage: " + usage), std::string::npos) << err_.str();
+  }
+  EXPECT_NE(err_.str().find("--format"), std::string::npos);
 }
 
 // The program itself, as a user runs it.
@@ -170,6 +205,11 @@ TEST_F(KqxTest, EndToEnd) {
   EXPECT_EQ(WEXITSTATUS(std::system((kqx + " resave " + path + " " + TempPath("r.kqx")).c_str())),
             0);
   EXPECT_TRUE(kqtest::ReadBytes(path) == kqtest::ReadBytes(TempPath("r.kqx")));
+  EXPECT_EQ(WEXITSTATUS(std::system((kqx + " --version > " + out).c_str())), 0);
+  EXPECT_EQ(WEXITSTATUS(std::system((kqx + " resave " + path + " 2> " + out).c_str())), 64);
+  std::ifstream usage(out);
+  std::getline(usage, first);
+  EXPECT_EQ(first.rfind("kqx: ", 0), 0u) << first;
 }
 
 }  // namespace

@@ -97,9 +97,11 @@ TEST_F(CmdScript, AFormNotShownIsRefusedAndANameThatIsNoFormIsWrong) {
 
 TEST_F(CmdScript, AWrongCommandLineIsRefused) {
   const std::string script = Write("e.kqs", "dump\n");
+  err_.str("");
+  EXPECT_EQ(kqx::kExitRefused, kqx::RunKqx({"script", (dir_ / "absent.kqs").string()}, out_, err_));
+  EXPECT_NE(err_.str().find("cannot read"), std::string::npos);
   const std::vector<std::vector<std::string>> wrong = {
       {"script"},
-      {"script", (dir_ / "absent.kqs").string()},
       {"script", script, "--screen", "wide", "100"},
       {"script", script, "--screen", "0", "100"},
       {"script", script, "--settings"},
@@ -108,7 +110,7 @@ TEST_F(CmdScript, AWrongCommandLineIsRefused) {
   };
   for (const auto& args : wrong) {
     err_.str("");
-    EXPECT_EQ(kqx::kExitRefused, kqx::RunKqx(args, out_, err_)) << args.back();
+    EXPECT_EQ(kqx::kExitUsage, kqx::RunKqx(args, out_, err_)) << args.back();
     EXPECT_NE("", err_.str()) << args.back();
   }
 }

@@ -93,9 +93,9 @@ TEST_F(KqxCommandsTest, CompileProgramErrorExitsWithTwo) {
 }
 
 TEST_F(KqxCommandsTest, CompileUsage) {
-  EXPECT_EQ(Run({"compile"}), 1);
-  EXPECT_EQ(Run({"compile", "a", "-x", "b"}), 1);
-  EXPECT_NE(err.str().find("usage: kqx compile IN [-o OUT]"), std::string::npos);
+  EXPECT_EQ(Run({"compile"}), kqx::kExitUsage);
+  EXPECT_EQ(Run({"compile", "a", "-x", "b"}), kqx::kExitUsage);
+  EXPECT_NE(err.str().find("Usage: kqx compile [OPTIONS] IN"), std::string::npos) << err.str();
 }
 
 TEST_F(KqxCommandsTest, ListWritesTheListingText) {

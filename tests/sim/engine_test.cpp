@@ -9,6 +9,7 @@
 #include "editor/commands.h"
 #include "sim/call_script.h"
 #include "sim/engine.h"
+#include "sim/keypad_line.h"
 #include "sim/sandbox.h"
 #include "sim/scripted_line.h"
 #include "sim/trace.h"
@@ -112,20 +113,9 @@ TEST(SimSandbox, PathTextsStayInsideTheSandbox) {
   EXPECT_EQ(box.Declared("/abs/").generic_string(), "/abs/");
 }
 
-// A line with nobody at the keypad yet: the engine waits on its line, traced once.
-class KeypadLine : public ScriptedLine {
- public:
-  KeypadLine() : ScriptedLine(CallScript{}, {}) {}
-  std::string keys;
-  KeyResult NextKey(int64_t, bool) override {
-    if (keys.empty()) return {LineStatus::Pending, 0};
-    const char k = keys[0];
-    keys.erase(0, 1);
-    return {LineStatus::Done, k};
-  }
-};
-
-TEST(SimEngine, WaitsForKeysWithoutRunningTheLineTwice) {
+// A person at the keypad: the engine waits on its line, traced once, until the person
+// rings, presses keys or hangs up.
+TEST(SimEngine, WaitsOnTheKeypadWithoutRunningTheLineTwice) {
   test::DocFixture fx;
   test::App app(fx);
   app.String("K");
@@ -134,6 +124,7 @@ TEST(SimEngine, WaitsForKeysWithoutRunningTheLineTwice) {
     app.V(r.Target, "K");
     r.KeyCount = 3;  // two keys
   });
+  app.Line<GetKeysRec>("", Fn::GetKeys, [&](GetKeysRec& r) { app.V(r.Target, "K"); });
   ASSERT_TRUE(Compile());
   PrgHdr.CompiledFlag = -1;
   KeypadLine line;
@@ -144,20 +135,26 @@ TEST(SimEngine, WaitsForKeysWithoutRunningTheLineTwice) {
   ASSERT_TRUE(tables.Open(PrgHdr, "", "", error));
   Sandbox box("/nonexistent-sandbox", "/");
   Engine engine(line, trace, tables, box, EngineOptions{});
+  EXPECT_EQ(engine.Step(), StepStatus::Waiting);  // nobody rings
+  line.PressKey('9');                             // not heard before the call
+  line.Ring();
   EXPECT_EQ(engine.Step(), StepStatus::Ran);
   EXPECT_EQ(engine.Step(), StepStatus::Waiting);
-  line.keys = "4";
-  EXPECT_EQ(engine.Step(), StepStatus::Waiting);
+  line.PressKey('9');
+  EXPECT_EQ(engine.Step(), StepStatus::Waiting);  // one key of two
   EXPECT_EQ(engine.CurrentLine(), 1);
-  line.keys = "2";
+  line.PressKey('2');
   EXPECT_EQ(engine.Step(), StepStatus::Ran);
+  EXPECT_EQ(engine.Vars().Get(engine.Vars().FindName("K")).s, "92");
+  EXPECT_EQ(engine.Step(), StepStatus::Waiting);
+  line.CallerHangsUp();
   EXPECT_EQ(engine.Step(), StepStatus::Ended);
-  EXPECT_EQ(engine.Reason(), EndReason::End);
-  EXPECT_EQ(engine.Vars().Get(engine.Vars().FindName("K")).s, "42");
+  EXPECT_EQ(engine.Reason(), EndReason::Hangup);
   trace.Flush();
   const std::string t = out.str();
   EXPECT_EQ(t.find("\"line\":1,"), t.rfind("\"line\":1,")) << t;
-  EXPECT_NE(t.find("{\"event\":\"keys\",\"keys\":\"42\"}"), std::string::npos) << t;
+  EXPECT_EQ(t.find("\"line\":0,"), t.rfind("\"line\":0,")) << t;
+  EXPECT_NE(t.find("{\"event\":\"keys\",\"keys\":\"92\"}"), std::string::npos) << t;
 }
 
 TEST(SimEngine, RandomFollowsTheSeed) {

@@ -59,4 +59,20 @@ TEST(Json, ConvertsWindows1252ToUtf8AndBack) {
   EXPECT_EQ(ui::Utf8ToCp1252(ui::Cp1252ToUtf8(cp)), cp);
 }
 
+// The event log's bytes: keys in the order they were set (a key set again keeps its
+// place), no blanks, control characters escaped, numbers and nulls as JSON writes them.
+TEST(Json, WritesKeysInOrderOnOneLine) {
+  ui::Json j;
+  j.Set("zeta", 1);
+  j.Set("alpha", ui::Json::Array{ui::Json(), true, false, int64_t{-9000000000}});
+  j.Set("mid", ui::Json::Object{{"b", "x"}, {"a", ui::Json::Array{}}});
+  j.Set("zeta", "tab\tline\nret\r\x01\\");
+  j.Set("empty", ui::Json::Object{});
+  EXPECT_EQ(j.Dump(), R"({"zeta":"tab\tline\nret\r\u0001\\","alpha":[null,true,false,-9000000000],)"
+                      R"("mid":{"b":"x","a":[]},"empty":{}})");
+  EXPECT_EQ(ui::Json().Dump(), "null");
+  EXPECT_EQ(j["mid"]["b"].Str(), "x");
+  EXPECT_TRUE(j["absent"].IsNull());
+}
+
 }  // namespace

@@ -1,6 +1,6 @@
 #include "ui/headless/json.h"
 
-#include <cstdio>
+#include <nlohmann/json.hpp>
 
 #include "ui/platform/codepage.h"
 
@@ -13,38 +13,8 @@ const std::string kEmptyString;
 const Json::Array kEmptyArray;
 const Json::Object kEmptyObject;
 
-void DumpString(std::string& out, const std::string& s) {
-  out += '"';
-  const std::string utf8 = Cp1252ToUtf8(s);
-  for (unsigned char c : utf8) {
-    switch (c) {
-      case '"':
-        out += "\\\"";
-        break;
-      case '\\':
-        out += "\\\\";
-        break;
-      case '\n':
-        out += "\\n";
-        break;
-      case '\r':
-        out += "\\r";
-        break;
-      case '\t':
-        out += "\\t";
-        break;
-      default:
-        if (c < 0x20) {
-          char buf[8];
-          std::snprintf(buf, sizeof buf, "\\u%04x", c);
-          out += buf;
-        } else {
-          out += static_cast<char>(c);
-        }
-    }
-  }
-  out += '"';
-}
+// The value as the JSON library holds it: keys in insertion order, text as UTF-8.
+nlohmann::ordered_json ToLibrary(const Json& value);
 
 }  // namespace
 
@@ -89,39 +59,28 @@ const Json& Json::operator[](const std::string& key) const {
   return kNull;
 }
 
+namespace {
+
+nlohmann::ordered_json ToLibrary(const Json& value) {
+  if (value.IsNull()) return nullptr;
+  if (value.IsString()) return Cp1252ToUtf8(value.Str());
+  if (value.IsBool()) return value.Bool();
+  if (value.IsInt()) return value.Int();
+  if (value.IsArray()) {
+    nlohmann::ordered_json a = nlohmann::ordered_json::array();
+    for (const Json& item : value.Arr()) a.push_back(ToLibrary(item));
+    return a;
+  }
+  nlohmann::ordered_json o = nlohmann::ordered_json::object();
+  // Object keys are set one by one so that a key repeated in the value keeps its place.
+  for (const auto& [key, item] : value.Obj()) o[Cp1252ToUtf8(key)] = ToLibrary(item);
+  return o;
+}
+
+}  // namespace
+
 std::string Json::Dump() const {
-  std::string out;
-  std::visit(
-      [&out](const auto& v) {
-        using T = std::decay_t<decltype(v)>;
-        if constexpr (std::is_same_v<T, std::monostate>) {
-          out += "null";
-        } else if constexpr (std::is_same_v<T, bool>) {
-          out += v ? "true" : "false";
-        } else if constexpr (std::is_same_v<T, int64_t>) {
-          out += std::to_string(v);
-        } else if constexpr (std::is_same_v<T, std::string>) {
-          DumpString(out, v);
-        } else if constexpr (std::is_same_v<T, Array>) {
-          out += '[';
-          for (size_t i = 0; i < v.size(); ++i) {
-            if (i) out += ',';
-            out += v[i].Dump();
-          }
-          out += ']';
-        } else {
-          out += '{';
-          for (size_t i = 0; i < v.size(); ++i) {
-            if (i) out += ',';
-            DumpString(out, v[i].first);
-            out += ':';
-            out += v[i].second.Dump();
-          }
-          out += '}';
-        }
-      },
-      v_);
-  return out;
+  return ToLibrary(*this).dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
 }
 
 }  // namespace ui

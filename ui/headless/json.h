@@ -1,5 +1,6 @@
 // A small JSON value for the event log: objects keep their keys in insertion order.
-// Strings hold Windows-1252 text and are written out as UTF-8.
+// Strings hold Windows-1252 text; Dump writes the value through the JSON library, as UTF-8
+// on one line.
 #pragma once
 
 #include <cstdint>
@@ -29,6 +30,9 @@ class Json {
 
   bool IsNull() const { return std::holds_alternative<std::monostate>(v_); }
   bool IsString() const { return std::holds_alternative<std::string>(v_); }
+  bool IsBool() const { return std::holds_alternative<bool>(v_); }
+  bool IsInt() const { return std::holds_alternative<int64_t>(v_); }
+  bool IsArray() const { return std::holds_alternative<Array>(v_); }
   const std::string& Str() const;  // "" when not a string
   int64_t Int() const;             // 0 when not a number
   bool Bool() const;
