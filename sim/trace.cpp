@@ -136,7 +136,8 @@ void Trace::Finish() {
   if (out_ == nullptr) {
     buf_.clear();
   } else if (buf_.size() >= kFlushAt) {
-    Flush();
+    out_->write(buf_.data(), static_cast<std::streamsize>(buf_.size()));
+    buf_.clear();
   }
 }
 
