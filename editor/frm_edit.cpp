@@ -8,6 +8,7 @@
 #include "document/state.h"
 #include "document/text.h"
 #include "editor/commands.h"
+#include "editor/frm_simulate.h"
 #include "editor/line_editing.h"
 #include "editor/settings.h"
 #include "editor/tool_forms.h"
@@ -82,7 +83,7 @@ void FrmEdit::BuildMenus() {
   const Top tops[] = {{&mnuFile, 20, true},      {&mnuEdit, 30, false},    {&mnuDefine, 40, false},
                       {&mnuGoto, 50, false},     {&mnuCompile, 60, false}, {&mnuPrint, 70, false},
                       {&mnuRecording, 75, true}, {&mnuListen, 80, true},   {&mnuConvert, 90, true},
-                      {&mnuHelp, 10, true}};
+                      {&mnuRun, 0, true},        {&mnuHelp, 10, true}};
   for (const Top& t : tops) {
     t.menu->SetHelpContextID(t.help);
     t.menu->SetEnabled(t.enabled);
@@ -133,6 +134,8 @@ void FrmEdit::WireEvents() {
   mnuRecording.OnClick = [this] { mnuRecording_Click(); };
   mnuListen.OnClick = [this] { mnuListen_Click(); };
   mnuConvert.OnClick = [this] { mnuConvert_Click(); };
+  mnuRun.Append(mnuRunSimulate);
+  mnuRunSimulate.OnClick = [] { ShowSimulate(); };
   lstEdit.OnDblClick = [this] { lstEdit_DblClick(); };
   lstEdit.OnKeyDown = [this](int& keyCode, int shift) { lstEdit_KeyDown(keyCode, shift); };
   lstEdit.OnKeyPress = [this](int& keyAscii) { lstEdit_KeyPress(keyAscii); };
