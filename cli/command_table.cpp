@@ -8,8 +8,8 @@ namespace {
 
 constexpr AddCommandFn kAll[] = {
     AddInfoCommand,    AddLinesCommand,   AddResaveCommand, AddCompileCommand,
-    AddListCommand,    AddConvertCommand, AddPromptsCommand, AddScriptCommand,
-    AddExportCommand,  AddImportCommand,  AddDiffCommand,
+    AddListCommand,    AddConvertCommand, AddPromptsCommand, AddRunCommand,
+    AddScriptCommand,  AddExportCommand,  AddImportCommand,  AddDiffCommand,
 };
 
 }  // namespace

@@ -50,5 +50,6 @@ void AddScriptCommand(CLI::App& app, Session& session);
 void AddExportCommand(CLI::App& app, Session& session);
 void AddImportCommand(CLI::App& app, Session& session);
 void AddDiffCommand(CLI::App& app, Session& session);
+void AddRunCommand(CLI::App& app, Session& session);
 
 }  // namespace kqx

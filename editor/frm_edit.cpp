@@ -9,6 +9,7 @@
 #include "document/text.h"
 #include "editor/commands.h"
 #include "editor/frm_prompts.h"
+#include "editor/frm_simulate.h"
 #include "editor/line_editing.h"
 #include "editor/settings.h"
 #include "editor/tool_forms.h"
@@ -85,7 +86,7 @@ void FrmEdit::BuildMenus() {
   const Top tops[] = {{&mnuFile, 20, true},      {&mnuEdit, 30, false},    {&mnuDefine, 40, false},
                       {&mnuGoto, 50, false},     {&mnuCompile, 60, false}, {&mnuPrint, 70, false},
                       {&mnuRecording, 75, true}, {&mnuListen, 80, true},   {&mnuConvert, 90, true},
-                      {&mnuHelp, 10, true}};
+                      {&mnuRun, 0, true},        {&mnuHelp, 10, true}};
   for (const Top& t : tops) {
     t.menu->SetHelpContextID(t.help);
     t.menu->SetEnabled(t.enabled);
@@ -144,6 +145,8 @@ void FrmEdit::WireEvents() {
   mnuConvert.OnClick = [this] { mnuConvert_Click(); };
   mnuFileExportText.OnClick = [this] { mnuFileExportText_Click(); };
   mnuFileImportText.OnClick = [this] { mnuFileImportText_Click(); };
+  mnuRun.Append(mnuRunSimulate);
+  mnuRunSimulate.OnClick = [] { ShowSimulate(); };
   lstEdit.OnDblClick = [this] { lstEdit_DblClick(); };
   lstEdit.OnKeyDown = [this](int& keyCode, int shift) { lstEdit_KeyDown(keyCode, shift); };
   lstEdit.OnKeyPress = [this](int& keyAscii) { lstEdit_KeyPress(keyAscii); };

@@ -113,6 +113,9 @@ class FrmEdit : public ui::Form {
   ui::Menu mnuRecording{*this, "mnuRecording", "&Recording"};
   ui::Menu mnuListen{*this, "mnuListen", "&Listen"};
   ui::Menu mnuConvert{*this, "mnuConvert", "C&onvert"};
+  // Beyond the described menus: the simulator.
+  ui::Menu mnuRun{*this, "mnuRun", "&Run"};
+  ui::Menu mnuRunSimulate{*this, "mnuRunSimulate", "&Simulate"};
 
   ui::Menu mnuHelp{*this, "mnuHelp", "&Help"};
   ui::Menu mnuHelpItem[kHelpItems]{{*this, "mnuHelpItem", "&Content", 0},

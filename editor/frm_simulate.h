@@ -1,0 +1,64 @@
+// The Simulate window: runs the open application as one call on a keypad line, with a
+// telephone keypad, Ring and Hang up, Step, Continue and Stop, breakpoints on lines of
+// lstEdit, the current line selected there, the variables watched and the trace.
+#pragma once
+
+#include <memory>
+#include <set>
+
+#include "sim/engine.h"
+#include "sim/keypad_line.h"
+#include "ui/model/controls.h"
+#include "ui/model/form.h"
+#include "ui/model/list_controls.h"
+
+namespace kq {
+
+class frmSimulate : public ui::Form {
+ public:
+  frmSimulate();
+  ~frmSimulate() override;
+
+  static constexpr int kKeys = 12;
+  ui::Label lblLine{*this, "lblLine", ""};
+  ui::CommandButton cmdKey[kKeys]{
+      {*this, "cmdKey", "1", 0}, {*this, "cmdKey", "2", 1},  {*this, "cmdKey", "3", 2},
+      {*this, "cmdKey", "4", 3}, {*this, "cmdKey", "5", 4},  {*this, "cmdKey", "6", 5},
+      {*this, "cmdKey", "7", 6}, {*this, "cmdKey", "8", 7},  {*this, "cmdKey", "9", 8},
+      {*this, "cmdKey", "*", 9}, {*this, "cmdKey", "0", 10}, {*this, "cmdKey", "#", 11}};
+  ui::CommandButton cmdRing{*this, "cmdRing", "&Ring"};
+  ui::CommandButton cmdHangUp{*this, "cmdHangUp", "&Hang up"};
+  ui::CommandButton cmdStep{*this, "cmdStep", "&Step"};
+  ui::CommandButton cmdContinue{*this, "cmdContinue", "C&ontinue"};
+  ui::CommandButton cmdStop{*this, "cmdStop", "S&top"};
+  ui::CommandButton cmdBreakpoint{*this, "cmdBreakpoint", "&Breakpoint"};
+  ui::CommandButton cmdClose{*this, "cmdClose", "&Close"};
+  ui::Label lblWatch{*this, "lblWatch", "Variables:"};
+  ui::ListBox lstWatch{*this, "lstWatch"};
+  ui::Label lblTrace{*this, "lblTrace", "Trace:"};
+  ui::ListBox lstTrace{*this, "lstTrace"};
+
+  const std::set<int>& Breakpoints() const { return breakpoints_; }
+  const sim::Engine* Engine() const { return engine_.get(); }
+
+ private:
+  void Form_Load() override;
+  void cmdKey_Click(int index);
+  void cmdStep_Click();
+  void cmdContinue_Click();
+  void cmdStop_Click();
+  void cmdBreakpoint_Click();
+  void Show();
+
+  struct Run;
+  std::unique_ptr<Run> run_;
+  sim::KeypadLine line_;
+  std::unique_ptr<sim::Engine> engine_;
+  std::set<int> breakpoints_;
+};
+
+// Run > Simulate: compiles the application when it is not compiled (the Compile menu's
+// boxes), then shows the window.
+void ShowSimulate();
+
+}  // namespace kq
