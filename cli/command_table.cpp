@@ -9,6 +9,8 @@ const Command kCommands[] = {
     {"compile", "IN [-o OUT]", CmdCompile},
     {"list", "IN [-o OUT] [--now \"YYYY-MM-DD HH:MM:SS\"]", CmdList},
     {"convert", "IN OUT [--format N]", CmdConvert},
+    {"lint", "FILE [--format json|text] [--werror]", CmdLint},
+    {"graph", "FILE [-o FILE.dot|FILE.svg]", CmdGraph},
     {"script", "FILE|- [--settings FILE] [--data DIR] [--home DIR] [--screen W H]", CmdScript},
     {nullptr, nullptr, nullptr},
 };

@@ -12,5 +12,7 @@ int CmdCompile(CliContext& ctx);
 int CmdList(CliContext& ctx);
 int CmdScript(CliContext& ctx);
 int CmdConvert(CliContext& ctx);
+int CmdLint(CliContext& ctx);
+int CmdGraph(CliContext& ctx);
 
 }  // namespace kqx

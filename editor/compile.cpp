@@ -8,6 +8,7 @@
 #include "document/text.h"
 #include "editor/commands.h"
 #include "editor/compile_index.h"
+#include "editor/compile_messages.h"
 #include "editor/record_view.h"
 #include "editor/select_line.h"
 #include "ui/model/list_controls.h"
@@ -17,13 +18,11 @@ namespace kq {
 
 namespace {
 
-constexpr char kCompilationError[] = "Compilation Error";
-
 int LineCount() {
   return EditList().ListCount();
 }
 
-void ShowFault(int line, const std::string& text, const char* title = kCompilationError) {
+void ShowFault(int line, const std::string& text, const char* title = kCompilationErrorTitle) {
   SelectOnlyLine(line);
   ui::platform().MsgBox(text, ui::vbExclamation | ui::vbOKOnly, title);
 }
@@ -49,10 +48,10 @@ bool IsConstantType(int32_t t) {
 }
 
 [[noreturn]] void IllegalFunction(int funcNo, const char* where) {
-  ui::ProgramError("Illegal Function Number" + Str(int64_t{funcNo}) + " in frmEdit - " + where);
+  ui::ProgramError(IllegalFunctionText(funcNo, where));
 }
 [[noreturn]] void IllegalFunctionNoNumber(const char* where) {
-  ui::ProgramError(std::string("Illegal Function Number in frmEdit - ") + where);
+  ui::ProgramError(IllegalFunctionNoNumberText(where));
 }
 
 // ---- Pass 1: the variables a line names.
@@ -70,7 +69,7 @@ bool WhereConditionsDefined(const VariableIndex& vars, int line, const RecordVie
     if (column <= 0) continue;
     // A condition on a table that isn't declared, or on a column beyond the table, has
     // no column to look at: the program can't go on.
-    if (t < 0 || column > kTableColumns) ui::ProgramError("Subscript out of range");
+    if (t < 0 || column > kTableColumns) ui::ProgramError(kSubscriptOutOfRange);
     if (!DefinedVarMsgFunc(vars, line, PrgHdr.Table[t].Column[column - 1])) return false;
     if (!DefinedVarMsgFunc(vars, line, VarAt(rec, 76 + 32 * i))) return false;
   }
@@ -216,7 +215,7 @@ bool ResolveInPlace(const LabelIndex& labels, int line, RecordView& rec, int nam
     if (i >= mandatory && FieldEmpty(name)) continue;
     const int target = labels.LastLine(name);
     if (target < 0) {
-      ShowFault(line, "Label '" + RTrimZ(name) + "' not found in line" + Str(int64_t{line}));
+      ShowFault(line, LabelNotFoundText(name, line));
       return false;
     }
     rec.SetI32(lineOffset + 4 * i, target);
@@ -384,12 +383,10 @@ bool ResolveLine(const LabelIndex& labels, int line, int f) {
 bool DefinedVarMsgFunc(const VariableIndex& vars, int line, const VarRef& ref) {
   if (IsConstantType(ref.VarRefType)) return true;
   if (!IsVariableType(ref.VarRefType)) {
-    ui::ProgramError("Illegal variable type '" + NulToBlank(View(ref.VarRefName)) + "' in line " +
-                     Str(int64_t{line}) + " in Global DefinedVarMsgFunc.");
+    ui::ProgramError(IllegalVariableTypeText(ref, line));
   }
   if (vars.Defined(ref)) return true;
-  ShowFault(line, "Variable '" + Text(ref.VarRefName) + "' in line" + Str(int64_t{line}) +
-                      " is not defined or data type mismatch.");
+  ShowFault(line, UndefinedVariableText(ref, line));
   return false;
 }
 
@@ -397,26 +394,23 @@ bool DefinedVarMsgDB(const VariableIndex& vars, std::string_view table16, int co
                      const VarRef& ref) {
   if (IsConstantType(ref.VarRefType)) return true;
   if (!IsVariableType(ref.VarRefType)) {
-    ui::ProgramError("Illegal variable type '" + NulToBlank(View(ref.VarRefName)) +
-                     "' in Global DefinedVarMsgDB.");
+    ui::ProgramError(IllegalColumnVariableTypeText(ref));
   }
   if (vars.Defined(ref)) return true;
-  ui::platform().MsgBox("Variable '" + Text(ref.VarRefName) + "' in database '" + RTrimZ(table16) +
-                            "' column" + Str(int64_t{column}) + " is not defined.",
-                        ui::vbExclamation | ui::vbOKOnly, kCompilationError);
+  ui::platform().MsgBox(UndefinedColumnVariableText(ref, table16, column),
+                        ui::vbExclamation | ui::vbOKOnly, kCompilationErrorTitle);
   return false;
 }
 
 bool DefinedPathMsgVariable(int line, int32_t pathType, std::string_view name28) {
   if (pathType < kPathExport || pathType > kPathGeneral) {
-    ui::ProgramError("Illegal path variable type '" + NulToBlank(RTrim(name28)) + "' with value " +
-                     Str(int64_t{pathType}) + " in Global DefinedPathMsgVariable.");
+    ui::ProgramError(IllegalPathTypeText(name28, pathType));
   }
   for (int row = 0; row < kPathRows; ++row) {
     const PathEntry& e = PrgHdr.Path[row][pathType - kPathExport];
     if (!FieldEmpty(View(e.PathName)) && View(e.PathName) == name28) return true;
   }
-  ShowFault(line, "Path variable '" + RTrimZ(name28) + "' is not defined.");
+  ShowFault(line, UndefinedPathText(name28));
   return false;
 }
 
@@ -424,8 +418,7 @@ bool DefinedTableMsgFunc(int line, std::string_view table16) {
   for (const TableEntry& t : PrgHdr.Table) {
     if (!FieldEmpty(View(t.TableName)) && View(t.TableName) == table16) return true;
   }
-  ShowFault(line, "Database table name '" + RTrimZ(table16) + "' in line" + Str(int64_t{line}) +
-                      " is not defined.");
+  ShowFault(line, UndefinedTableText(table16, line));
   return false;
 }
 
@@ -435,8 +428,7 @@ bool GetLineNo(const LabelIndex& labels, std::string_view label16, int32_t& line
     lineNo = target;
     return true;
   }
-  ShowFault(line, "Label '" + RTrimZ(label16) + "' not found in line" + Str(int64_t{line}),
-            "Compilation Error - GetLineNo");
+  ShowFault(line, LabelNotFoundText(label16, line), kGetLineNoTitle);
   return false;
 }
 
@@ -496,8 +488,7 @@ bool DuplicatedLabels() {
   const LabelIndex labels(LineCount());
   int i = 0, j = 0;
   if (!labels.FirstDuplicate(i, j)) return false;
-  ShowFault(i, "Label '" + Text(LineTable[i].LineLabel) + "' duplicated in line" + Str(int64_t{i}) +
-                   " and" + Str(int64_t{j}));
+  ShowFault(i, DuplicatedLabelText(View(LineTable[i].LineLabel), i, j));
   return true;
 }
 
