@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <memory>
 
+#include "check/forms/install.h"
 #include "editor/frm_edit.h"
 #include "ui/qt/qt_platform.h"
 
@@ -14,6 +15,7 @@ int main(int argc, char** argv) {
   ui::qt::QtPlatform platform;
   ui::SetPlatform(&platform);
   auto form = std::make_unique<kq::FrmEdit>();  // the first stage of start-up
+  kq::InstallCheckWindows();
   platform.Show(*form);
   const int code = QApplication::exec();
   platform.CloseMain();

@@ -42,9 +42,9 @@ TEST_F(DiagramTest, DotNamesNodesAfterLinesAndHoldsEveryEdge) {
   for (const auto& e : g.edges)
     expected.insert({diagram::NodeName(e.from), diagram::NodeName(e.to)});
   EXPECT_EQ(found, expected);
-  EXPECT_NE(dot.find("label=\"#\""), std::string::npos);    // the key's keyword
-  EXPECT_NE(dot.find("label=\"T/E\""), std::string::npos);  // the timeout's
-  EXPECT_NE(dot.find("pos="), std::string::npos);           // laid out
+  EXPECT_NE(dot.find("xlabel=\"#\""), std::string::npos);    // the key's keyword
+  EXPECT_NE(dot.find("xlabel=\"T/E\""), std::string::npos);  // the timeout's
+  EXPECT_NE(dot.find("pos="), std::string::npos);            // laid out
 }
 
 TEST_F(DiagramTest, SvgCarriesTheNodeIdsAndEscapesTheText) {
