@@ -56,6 +56,7 @@ class CheckWindowsTest : public EditorWindowTest {
 
 TEST_F(CheckWindowsTest, CallFlowDrawsTheDiagramAndFollowsTheSelection) {
   Program();
+  form->mnuGoto.SetEnabled(true);  // as adding lines through the Edit menu leaves it
   action(form->mnuGotoCallFlow)->trigger();
   kq::frmCallFlow* flow = kq::CallFlowWindow();
   ASSERT_NE(flow, nullptr);
@@ -112,6 +113,7 @@ TEST_F(CheckWindowsTest, CheckAllListsFindingsAndGoesToTheirLines) {
   check->lstFindings.SetListIndex(0);
   check->lstFindings.RaiseDblClick();
   EXPECT_EQ(form->lstEdit.SelectedIndexes(), std::vector<int>{4});
+  QDir().mkpath(QStringLiteral(KQ_SHOT_DIR));
   EXPECT_TRUE(WindowOf("frmCheckAll")->grab().save(QStringLiteral(KQ_SHOT_DIR "/frmCheckAll.png")));
   check->cmdClose.UserClick();
   EXPECT_EQ(kq::CheckAllWindow(), nullptr);
