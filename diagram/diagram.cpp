@@ -13,6 +13,7 @@ namespace kq::diagram {
 namespace {
 
 constexpr size_t kLabelWidth = 60;  // characters of a DisplayLine shown in its node
+constexpr size_t kMaxClusters = 150;
 
 // The library's setters take writable strings.
 void Set(void* obj, const char* name, const std::string& value) {
@@ -120,16 +121,22 @@ bool Render(const check::FlowGraph& graph, const std::vector<std::string>& texts
   for (size_t b = 0; b < graph.blockStarts.size(); ++b) {
     const int first = graph.blockStarts[b];
     const int end = b + 1 < graph.blockStarts.size() ? graph.blockStarts[b + 1] : graph.lines;
-    std::string name = "cluster_" + NodeName(first);
+    // Small programs show each block framed; beyond kMaxClusters the frames cost the layout
+    // more than they give, and a block's boxes are only kept in one column.
+    const bool framed = graph.blockStarts.size() <= kMaxClusters;
+    std::string name = (framed ? "cluster_" : "block_") + NodeName(first);
     Agraph_t* block = agsubg(g.get(), name.data(), 1);
-    Set(block, "style", "rounded");
-    Set(block, "color", "gray70");
+    if (framed) {
+      Set(block, "style", "rounded");
+      Set(block, "color", "gray70");
+    }
     for (int line = first; line < end; ++line) {
       std::string node = NodeName(line);
       Agnode_t* n = agnode(block, node.data(), 1);
       const std::string& text = static_cast<size_t>(line) < texts.size() ? texts[line] : node;
       Set(n, "label", NodeLabel(text));
       Set(n, "id", node);
+      if (!framed) Set(n, "group", name);
       nodes[static_cast<size_t>(line)] = n;
     }
   }
