@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 
+#include "check/forms/install.h"
 #include "editor/desktop_files.h"
 #include "editor/frm_edit.h"
 #include "editor/frm_prompts.h"
@@ -94,6 +95,7 @@ int RunKQEdit(int argc, char** argv) {
   // Between two spoken prompts the window takes its events, so that Cancel can be clicked.
   frmPrompts::Pump = [] { QCoreApplication::processEvents(); };
   auto form = std::make_unique<FrmEdit>();  // the first stage of start-up
+  InstallCheckWindows();
   StartEditor(platform, *form, QApplication::arguments());
   const int code = QApplication::exec();
   platform.CloseMain();

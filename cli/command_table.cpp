@@ -10,6 +10,7 @@ constexpr AddCommandFn kAll[] = {
     AddInfoCommand,    AddLinesCommand,   AddResaveCommand, AddCompileCommand,
     AddListCommand,    AddConvertCommand, AddPromptsCommand, AddRunCommand,
     AddScriptCommand,  AddExportCommand,  AddImportCommand,  AddDiffCommand,
+    AddLintCommand,    AddGraphCommand,
 };
 
 }  // namespace

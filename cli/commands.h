@@ -51,5 +51,7 @@ void AddExportCommand(CLI::App& app, Session& session);
 void AddImportCommand(CLI::App& app, Session& session);
 void AddDiffCommand(CLI::App& app, Session& session);
 void AddRunCommand(CLI::App& app, Session& session);
+void AddLintCommand(CLI::App& app, Session& session);
+void AddGraphCommand(CLI::App& app, Session& session);
 
 }  // namespace kqx

@@ -1,4 +1,5 @@
 #include "editor/frm_edit.h"
+#include "editor/extra_windows.h"
 
 #include <cmath>
 
@@ -83,10 +84,10 @@ void FrmEdit::BuildMenus() {
     int help;
     bool enabled;
   };
-  const Top tops[] = {{&mnuFile, 20, true},      {&mnuEdit, 30, false},    {&mnuDefine, 40, false},
-                      {&mnuGoto, 50, false},     {&mnuCompile, 60, false}, {&mnuPrint, 70, false},
-                      {&mnuRecording, 75, true}, {&mnuListen, 80, true},   {&mnuConvert, 90, true},
-                      {&mnuRun, 0, true},        {&mnuHelp, 10, true}};
+  const Top tops[] = {{&mnuFile, 20, true},     {&mnuEdit, 30, false},    {&mnuDefine, 40, false},
+                      {&mnuGoto, 50, false},    {&mnuCompile, 60, false}, {&mnuCheckAll, 60, true},
+                      {&mnuPrint, 70, false},   {&mnuRecording, 75, true}, {&mnuListen, 80, true},
+                      {&mnuConvert, 90, true},  {&mnuRun, 0, true},        {&mnuHelp, 10, true}};
   for (const Top& t : tops) {
     t.menu->SetHelpContextID(t.help);
     t.menu->SetEnabled(t.enabled);
@@ -121,6 +122,7 @@ void FrmEdit::BuildMenus() {
     mnuGotoItem[i].SetShortcut(gotoKeys[i]);
     mnuGoto.Append(mnuGotoItem[i]);
   }
+  mnuGoto.Append(mnuGotoCallFlow);
   for (auto& item : mnuHelpItem) mnuHelp.Append(item);
   AddMenu(mnuTools);
   mnuTools.Append(mnuToolsPrompts);
@@ -139,6 +141,12 @@ void FrmEdit::WireEvents() {
   for (int i = 0; i < kHelpItems; ++i) mnuHelpItem[i].OnClick = [this, i] { mnuHelpItem_Click(i); };
   mnuToolsPrompts.OnClick = [] { MakeMissingPromptsCommand(); };
   mnuCompile.OnClick = [this] { mnuCompile_Click(); };
+  mnuCheckAll.OnClick = [] {
+    if (Extras().checkAll) Extras().checkAll();
+  };
+  mnuGotoCallFlow.OnClick = [] {
+    if (Extras().callFlow) Extras().callFlow();
+  };
   mnuPrint.OnClick = [this] { mnuPrint_Click(); };
   mnuRecording.OnClick = [this] { mnuRecording_Click(); };
   mnuListen.OnClick = [this] { mnuListen_Click(); };

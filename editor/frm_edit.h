@@ -109,6 +109,8 @@ class FrmEdit : public ui::Form {
                                    {*this, "mnuGotoItem", "Next Path Parameter", 9}};
 
   ui::Menu mnuCompile{*this, "mnuCompile", "&Compile"};
+  ui::Menu mnuCheckAll{*this, "mnuCheckAll", "Chec&k All"};
+  ui::Menu mnuGotoCallFlow{*this, "mnuGotoCallFlow", "Call &Flow"};
   ui::Menu mnuPrint{*this, "mnuPrint", "&Print"};
   ui::Menu mnuRecording{*this, "mnuRecording", "&Recording"};
   ui::Menu mnuListen{*this, "mnuListen", "&Listen"};

@@ -97,6 +97,7 @@ class HeadlessPlatform : public Platform {
   int MousePointer() const override { return pointer_; }
   void ShowModal(Form& form) override;
   void Show(Form& form) override;
+  void ShowModeless(Form& form) override { Show(form); }
   void FormUnloaded(Form& form) override;
   void FocusChanged(Form& form, Control& control) override;
   std::optional<std::string> FileDialog(const FileDialogRequest& request) override;

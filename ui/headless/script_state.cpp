@@ -9,6 +9,7 @@
 #include "ui/model/media_control.h"
 #include "ui/model/menu.h"
 #include "ui/model/scroll_bar.h"
+#include "ui/model/svg_view.h"
 
 namespace ui {
 
@@ -57,6 +58,9 @@ Json ControlState(const Control& c) {
       break;
     case ControlKind::ScrollBar:
       j.Set("value", static_cast<const HScrollBar&>(c).Value());
+      break;
+    case ControlKind::SvgView:
+      j.Set("text", static_cast<const SvgView&>(c).Marked());
       break;
   }
   j.Set("enabled", c.Enabled());

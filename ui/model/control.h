@@ -25,6 +25,7 @@ enum class ControlKind {
   FileListBox,
   MediaControl,
   ScrollBar,
+  SvgView,
 };
 
 // What changed, for a binding that mirrors the control. Items: first and count of the

@@ -77,6 +77,9 @@ class Platform {
   virtual void ShowModal(Form& form) = 0;
   // Shows a form without a modal loop (the main window).
   virtual void Show(Form& form) = 0;
+  // Shows a window beside the main window, without a modal loop; it stays until its form
+  // unloads. A platform without such windows shows it modally.
+  virtual void ShowModeless(Form& form) { ShowModal(form); }
   // Called by the model when a form has unloaded, so the window goes away.
   virtual void FormUnloaded(Form& form) = 0;
   // Called by the model whenever a control takes the focus.

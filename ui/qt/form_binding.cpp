@@ -2,6 +2,7 @@
 #include "ui/qt/media_binding.h"
 #include "ui/qt/progress_binding.h"
 #include "ui/qt/scroll_binding.h"
+#include "ui/qt/svg_binding.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -94,6 +95,9 @@ ControlBinding* FormBinding::Bind(Control& control, QWidget* parent) {
       } else {
         b = std::make_unique<ScrollBinding>(static_cast<HScrollBar&>(control), parent);
       }
+      break;
+    case ControlKind::SvgView:
+      b = std::make_unique<SvgBinding>(static_cast<SvgView&>(control), parent);
       break;
     case ControlKind::Menu:
       return nullptr;  // menus belong to the bar

@@ -252,7 +252,30 @@ void QtPlatform::Show(Form& form) {
   main_->show();
 }
 
+void QtPlatform::ShowModeless(Form& form) {
+  auto* window = new DialogWindow(form, TopWindow());
+  window->setModal(false);
+  window->adjustSize();
+  form.Move(form.Left(), form.Top(), ToTwips(window->width()), ToTwips(window->height()));
+  form.DoLoad();
+  if (!form.Loaded()) {
+    delete window;
+    return;
+  }
+  modeless_.emplace_back(&form, window);
+  window->move(ToPixels(form.Left()), ToPixels(form.Top()));
+  window->show();
+}
+
 void QtPlatform::FormUnloaded(Form& form) {
+  for (auto it = modeless_.begin(); it != modeless_.end(); ++it) {
+    if (it->first == &form) {
+      it->second->Finish();
+      it->second->deleteLater();
+      modeless_.erase(it);
+      return;
+    }
+  }
   for (auto& [f, w] : dialogs_) {
     if (f == &form) {
       w->Finish();

@@ -73,6 +73,7 @@ class QtPlatform : public Platform {
   int MousePointer() const override { return pointer_; }
   void ShowModal(Form& form) override;
   void Show(Form& form) override;
+  void ShowModeless(Form& form) override;
   void FormUnloaded(Form& form) override;
   void FocusChanged(Form& form, Control& control) override;
   std::optional<std::string> FileDialog(const FileDialogRequest& request) override;
@@ -110,6 +111,7 @@ class QtPlatform : public Platform {
 
   MainWindow* main_ = nullptr;
   std::vector<std::pair<Form*, DialogWindow*>> dialogs_;  // innermost last
+  std::vector<std::pair<Form*, DialogWindow*>> modeless_;
   QPointer<HelpWindow> help_;
   std::unique_ptr<PrintJob> print_;
 };
