@@ -1,8 +1,9 @@
 // kqx list IN [-o OUT] [--now "YYYY-MM-DD HH:MM:SS"]: the listing text of an application,
 // as the Print menu writes it to its text file, to OUT or to standard output. --now fixes
 // the date and time of the first row.
-#include <fstream>
+#include <cstring>
 #include <memory>
+#include <sstream>
 
 #include <CLI/CLI.hpp>
 
@@ -11,6 +12,7 @@
 #include "document/state.h"
 #include "editor/listing.h"
 #include "ui/headless/headless_platform.h"
+#include "ui/platform/durable_file.h"
 
 namespace kqx {
 
@@ -32,20 +34,21 @@ int List(Session& session, const ListArgs& a) {
   kq::ApplFileTitle = TitleOf(in);
   if (now.empty()) now = kq::NowText();
 
-  std::ofstream file;
-  if (!out.empty()) {
-    file.open(out, std::ios::binary | std::ios::trunc);
-    if (!file) {
-      session.err << "kqx: can't write " << out << "\n";
-      return kExitRefused;
-    }
-  }
-  std::ostream& sink = out.empty() ? session.out : file;
+  // A listing file is written whole and durably: a failure leaves the last one in place.
+  std::ostringstream text;
+  std::ostream& sink = out.empty() ? session.out : text;
   try {
     kq::WriteListing([&](const std::string& row) { sink << row << kq::kRowEnd; }, now);
   } catch (const kq::ListingFault& fault) {
     session.err << "kqx: the listing stops: " << fault.what() << "\n";
     return kExitRefused;
+  }
+  if (!out.empty()) {
+    const std::string bytes = text.str();
+    if (const int err = ui::WriteFileDurably(out, bytes.data(), bytes.size()); err != 0) {
+      session.err << "kqx: can't write " << out << ": " << std::strerror(err) << "\n";
+      return kExitRefused;
+    }
   }
   return kExitOk;
 }

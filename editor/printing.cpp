@@ -7,6 +7,7 @@
 #include "document/text.h"
 #include "editor/commands.h"
 #include "editor/listing.h"
+#include "ui/platform/durable_file.h"
 #include "ui/platform/platform.h"
 
 namespace kq {
@@ -91,17 +92,19 @@ void PrintCommand() {
   const std::string fileName = ListingFileName(ApplFileName);
   const std::string dateTime = NowText();
   // Any failure from here on ends the printing without a message; the text file stays
-  // as far as it was written.
+  // as far as it was made. It is written whole and durably, so a failing disk leaves the
+  // last listing in place.
+  std::string text;
   try {
-    {
-      std::ofstream out(fileName, std::ios::binary | std::ios::trunc);
-      if (!out) return;
-      WriteListing([&](const std::string& row) { out << row << kRowEnd; }, dateTime);
-      if (!out) return;
-    }
+    WriteListing([&](const std::string& row) { text += row + kRowEnd; }, dateTime);
+  } catch (const ListingFault&) {
+    (void)ui::WriteFileDurably(fileName, text.data(), text.size());
+    return;
+  }
+  if (ui::WriteFileDurably(fileName, text.data(), text.size()) != 0) return;
+  try {
     PrintListingRows(ReadRows(fileName), dateTime, request.fromPage, request.toPage,
                      request.copies);
-  } catch (const ListingFault&) {
   } catch (const std::ios_base::failure&) {
   }
 }

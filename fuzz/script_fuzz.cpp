@@ -4,6 +4,8 @@
 // Built with libFuzzer under clang; with replay_main.cpp an ordinary program that replays
 // the files it is given.
 #include <cstdint>
+#include <cstdlib>
+#include <iostream>
 #include <sstream>
 #include <string>
 
@@ -43,6 +45,9 @@ class Probe : public ui::Form {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   ui::HeadlessPlatform platform;
+  // KQ_FUZZ_EVENTS=1 shows what a replayed script did.
+  static const bool showEvents = std::getenv("KQ_FUZZ_EVENTS") != nullptr;
+  if (showEvents) platform.SetEventStream(&std::cerr);
   Probe probe;
   ui::ScriptHooks hooks;
   hooks.start = [&] { platform.Show(probe); };

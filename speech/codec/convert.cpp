@@ -9,9 +9,11 @@
 #include <cerrno>
 #include <memory>
 #include <mutex>
+#include <thread>
 #include <utility>
 #include <vector>
 
+#include "speech/codec/block_queue.h"
 #include "speech/codec/codecs.h"
 #include "speech/codec/convert_codes.h"
 #include "speech/codec/resample.h"
@@ -203,7 +205,6 @@ int16_t Convert(const char* inputName, int16_t inputFormat, int16_t inputRate,
   if (const int code = writer.Open(outputName); code != kConvertOk) {
     return static_cast<int16_t>(code);
   }
-  StreamResampler resampler(reader.Rate(), rate, reader.Count());
   std::unique_ptr<StreamEncoder> encoder;
   std::vector<uint8_t> bytes;
   if (outputFormat == kWave) {
@@ -211,32 +212,47 @@ int16_t Convert(const char* inputName, int16_t inputFormat, int16_t inputRate,
   } else {
     encoder = std::make_unique<StreamEncoder>(outputFormat);
   }
-  std::vector<int16_t> in, out;
-  const auto put = [&]() {
+  // One thread reads and resamples, this one encodes and writes.
+  BlockQueue queue;
+  std::thread giver([&queue, &reader, rate] {
+    StreamResampler resampler(reader.Rate(), rate, reader.Count());
+    std::vector<int16_t> in;
+    for (;;) {
+      if (const int code = reader.Next(in); code != kConvertOk) return queue.Finish(code);
+      std::vector<int16_t> out;
+      if (in.empty()) {
+        resampler.Finish(out);
+      } else {
+        resampler.Process(in, out);
+      }
+      if (!out.empty() && !queue.Push(std::move(out))) return;
+      if (in.empty()) return queue.Finish(kConvertOk);
+    }
+  });
+  int code = writer.Put(bytes);
+  bytes.clear();
+  std::vector<int16_t> block;
+  while (code == kConvertOk && queue.Pop(block)) {
     if (encoder) {
-      encoder->Encode(out, bytes);
+      encoder->Encode(block, bytes);
     } else {
-      for (const int16_t v : out) {
+      for (const int16_t v : block) {
         bytes.push_back(static_cast<uint8_t>(v));
         bytes.push_back(static_cast<uint8_t>(static_cast<uint16_t>(v) >> 8));
       }
     }
-    out.clear();
-    const int code = writer.Put(bytes);
+    code = writer.Put(bytes);
     bytes.clear();
-    return code;
-  };
-  for (;;) {
-    if (const int code = reader.Next(in); code != kConvertOk) return static_cast<int16_t>(code);
-    if (in.empty()) break;
-    resampler.Process(in, out);
-    if (const int code = put(); code != kConvertOk) return static_cast<int16_t>(code);
   }
-  resampler.Finish(out);
-  if (const int code = put(); code != kConvertOk) return static_cast<int16_t>(code);
-  if (encoder) encoder->Finish(bytes);
-  if (const int code = writer.Put(bytes); code != kConvertOk) return static_cast<int16_t>(code);
-  return static_cast<int16_t>(writer.Commit());
+  queue.Stop();
+  giver.join();
+  if (code == kConvertOk) code = queue.Code();
+  if (code == kConvertOk && encoder) {
+    encoder->Finish(bytes);
+    code = writer.Put(bytes);
+  }
+  if (code == kConvertOk) code = writer.Commit();
+  return static_cast<int16_t>(code);
 }
 
 void InjectConvertReadFault(uint64_t afterBytes) {

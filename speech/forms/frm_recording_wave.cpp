@@ -7,6 +7,7 @@
 
 #include "dialogs/services.h"
 #include "speech/forms/speech_forms.h"
+#include "ui/platform/durable_file.h"
 #include "ui/platform/platform.h"
 
 namespace kq {
@@ -202,10 +203,7 @@ void frmRecordingWave::mnuFileSaveAs_Click() {
   const std::optional<std::string> file = ui::platform().FileDialog(request);
   if (!file) return;
   if (!SaveToTemp()) return;
-  std::error_code ec;
-  std::filesystem::copy_file(TempFile(kTempRecording), *file,
-                             std::filesystem::copy_options::overwrite_existing, ec);
-  if (ec) {
+  if (ui::CopyFileDurably(TempFile(kTempRecording), *file) != 0) {
     MciError();
     return;
   }

@@ -8,6 +8,7 @@
 #include "document/text.h"
 #include "speech/codec/convert.h"
 #include "ui/platform/disk.h"
+#include "ui/platform/durable_file.h"
 #include "ui/platform/platform.h"
 
 namespace kq {
@@ -110,10 +111,8 @@ void PlaySpeechFile(ui::MMControl& media, const ui::FileListBox& files,
     return;
   }
   if (format == kWaveFormat) {
-    std::error_code ec;
-    std::filesystem::copy_file(source, temp, std::filesystem::copy_options::overwrite_existing, ec);
-    if (ec) {
-      HandleDiskError("Play Function", kErrPermissionDenied);
+    if (const int err = ui::CopyFileDurably(source, temp); err != 0) {
+      HandleDiskError("Play Function", SystemErrorNumber(err));
       return;
     }
   } else {

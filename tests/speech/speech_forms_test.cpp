@@ -1,5 +1,6 @@
 // The speech tools on the headless platform: settings, messages, conversions through the
 // real library on WAVE files made here, and what is asked of the media control.
+#include <cerrno>
 #include <filesystem>
 #include <functional>
 
@@ -16,6 +17,7 @@
 #include "speech/forms/system_info.h"
 #include "tests/speech/speech_fixture.h"
 #include "ui/headless/headless_platform.h"
+#include "ui/platform/durable_file.h"
 
 namespace {
 
@@ -295,6 +297,32 @@ TEST(SpeechFormats, GetSpeechFileExtFollowsTheMenuAndRefusesWave) {
   EXPECT_EQ(error, "Illegal speech format =  4 in GetSpeechFileExt.");
   kq::SpeechAudioFormat = saved;
   ui::SetPlatform(nullptr);
+}
+
+TEST_F(SpeechFormsTest, ATemporaryWaveThatCannotBeWrittenGivesTheSystemsMessage) {
+  const std::string wave = Tone("src/a.wav");
+  const std::string vox = PathOf("src/b.vox");
+  ASSERT_EQ(kq::speech::Convert(wave.c_str(), 4, 8, vox.c_str(), 2, 8), 0);
+  kq::SpeechAudioFormat = 2;
+  SetSetting("ListenFileName", wave);
+  const std::string temp = (dir_ / "tmp" / "listen.wav").string();
+  Write("tmp/listen.wav", Bytes{'l', 'a', 's', 't'});
+  p.QueueAnswer(ui::vbCancel);
+  Show<kq::frmListen>([&](kq::frmListen& f) {
+    ui::InjectDurableWriteFault(ENOSPC, 100, 1);  // the copy of a WAVE file
+    f.cmdPlay.UserClick();
+    f.filPath.UserSelect(1);
+    ui::InjectDurableWriteFault(ENOSPC, 100, 1);  // the conversion of a ".vox" file
+    f.cmdPlay.UserClick();
+    EXPECT_EQ(Read(temp), (Bytes{'l', 'a', 's', 't'}));
+    fs::remove_all(dir_ / "tmp");  // the folder vanished
+    f.cmdPlay.UserClick();
+  });
+  EXPECT_EQ(Boxes(), (std::vector<std::string>{
+                         "Play Function: Disk is full.\r\rInsert a new disk and try again.",
+                         "Speech File Convert Error: Error writing to output filename.",
+                         "Speech File Convert Error: Error opening output filename."}));
+  EXPECT_FALSE(fs::exists(temp + ".kqx-save"));
 }
 
 }  // namespace

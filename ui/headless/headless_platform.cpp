@@ -5,6 +5,7 @@
 
 #include "ui/model/control.h"
 #include "ui/model/form.h"
+#include "ui/platform/durable_file.h"
 
 namespace ui {
 
@@ -262,13 +263,12 @@ bool HeadlessPlatform::LoadSettingsFile(const std::string& path) {
 }
 
 bool HeadlessPlatform::SaveSettingsFile(const std::string& path) const {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  if (!out) return false;
+  std::string text;
   auto it = settings_.find(std::string("KQEdit\nSettings"));
   if (it != settings_.end()) {
-    for (const auto& [k, v] : it->second) out << k << '=' << v << '\n';
+    for (const auto& [k, v] : it->second) text += k + '=' + v + '\n';
   }
-  return static_cast<bool>(out);
+  return WriteFileDurably(path, text.data(), text.size()) == 0;
 }
 
 bool HeadlessPlatform::PrintDialog(PrintDialogRequest& request) {

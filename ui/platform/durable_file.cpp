@@ -190,6 +190,23 @@ int WriteFileDurably(const std::string& path, const void* data, size_t size) {
   return file.Commit();
 }
 
+int CopyFileDurably(const std::string& from, const std::string& to) {
+  const int in = ::open(from.c_str(), O_RDONLY | O_CLOEXEC);
+  if (in < 0) return errno;
+  DurableFile file;
+  int err = file.Open(to);
+  uint8_t buffer[64 * 1024];
+  while (err == 0) {
+    const ssize_t n = ::read(in, buffer, sizeof buffer);
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) err = errno;
+    if (n <= 0) break;
+    err = file.Write(buffer, static_cast<size_t>(n));
+  }
+  ::close(in);
+  return err != 0 ? err : file.Commit();
+}
+
 void InjectDurableWriteFault(int errnoValue, uint64_t afterBytes, int times) {
   Seams& s = seams();
   std::lock_guard lock(s.mutex);

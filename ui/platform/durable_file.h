@@ -51,6 +51,9 @@ class DurableFile {
 // Writes `size` bytes as the whole file `path` through a DurableFile; an errno value.
 int WriteFileDurably(const std::string& path, const void* data, size_t size);
 
+// Copies the file `from` as the whole file `to` through a DurableFile; an errno value.
+int CopyFileDurably(const std::string& from, const std::string& to);
+
 // Test seams, for the next durable writes of this process:
 //  - the next `times` writes fail with `errnoValue` once `afterBytes` bytes of the file
 //    have been written, like a device that fills up;
