@@ -10,11 +10,7 @@
 
 namespace kq {
 
-namespace {
-
-constexpr int kMaxRetries = 100;  // a Retry answered for ever must not hang the dialog
-
-}  // namespace
+namespace {}  // namespace
 
 frmDefPath::frmDefPath()
     : DeclarationForm("frmDefPath", "Define Paths", "Path name", "path names") {
@@ -89,13 +85,10 @@ void frmDefPath::lstVariable_Click() {
 }
 
 void frmDefPath::drvPath_Change() {
-  for (int attempt = 1;; ++attempt) {
-    int error = dirPath.SetPath(ui::disk().CurrentDirectory());
-    if (error == 0) error = ui::disk().ChangeDirectory(dirPath.Path());
-    if (error == 0) return;
-    const int action = HandleDiskError("Change drive path", error);
-    if (action != kDiskRetry || attempt >= kMaxRetries) return;
-  }
+  RetryDiskOperation("Change drive path", [this] {
+    const int error = dirPath.SetPath(ui::disk().CurrentDirectory());
+    return error != 0 ? error : ui::disk().ChangeDirectory(dirPath.Path());
+  });
 }
 
 void frmDefPath::dirPath_Change() {
@@ -114,8 +107,7 @@ void frmDefPath::cmdAdd_Click() {
   } else if (Listed(name)) {
     ShowExists(name);
   } else {
-    std::string directory = dirPath.Path();
-    if (directory.empty() || directory.back() != '/') directory += '/';
+    const std::string directory = ui::WithTrailingSeparator(dirPath.Path());
     lstVariable.AddItem(name);
     lstDataType.AddItem(directory, lstVariable.NewIndex());
     txtName.SetText("");

@@ -14,6 +14,10 @@ Platform& platform() {
   return *g_platform;
 }
 
+Platform* InstalledPlatform() {
+  return g_platform;
+}
+
 void SetPlatform(Platform* p) {
   g_platform = p;
 }
