@@ -6,6 +6,7 @@
 #include "cli/list_form.h"
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/run_scope.h"
 #include "document/state.h"
 #include "ui/headless/headless_platform.h"
 
@@ -22,19 +23,8 @@ namespace {
 struct RunState {
   ui::HeadlessPlatform platform;
   frmHiddenList list;
-  explicit RunState(std::ostream& out) {
-    platform.SetEventStream(&out);
-    ui::SetPlatform(&platform);
-    kq::SetEditList(&list.lstEdit);
-    kq::Shell = {};
-    kq::InitDocument();
-    kq::InitNameTables();
-    kq::GetFuncRecordLength();
-  }
-  ~RunState() {
-    kq::SetEditList(nullptr);
-    ui::SetPlatform(nullptr);
-  }
+  kq::RunScope run{{&platform, &list.lstEdit}};
+  explicit RunState(std::ostream& out) { platform.SetEventStream(&out); }
 };
 
 }  // namespace

@@ -15,11 +15,6 @@ namespace {
 
 constexpr int kMaxRetries = 100;  // a Retry answered for ever must not hang the dialog
 
-std::string WithSeparator(std::string directory) {
-  if (directory.empty() || directory.back() != '/') directory += '/';
-  return directory;
-}
-
 }  // namespace
 
 frmDefPath::frmDefPath()
@@ -120,7 +115,7 @@ void frmDefPath::cmdAdd_Click() {
     ShowListFull(kPathRows);
   } else if (Listed(name)) {
     ShowExists(name);
-  } else if (std::string directory = WithSeparator(dirPath.Path());
+  } else if (std::string directory = ui::WithTrailingSeparator(dirPath.Path());
              NameFits(directory, sizeof(PathEntry::PathText), "Path", "Path name add error")) {
     lstVariable.AddItem(name);
     lstDataType.AddItem(directory, lstVariable.NewIndex());

@@ -15,11 +15,9 @@ namespace kq {
 namespace {
 constexpr const char* kAddTitle = "Voice file add error";
 constexpr const char* kPlayTitle = "Play Function";
-constexpr int kMaxRetries = 100;  // a Retry answered for ever must not hang the dialog
 
 std::string Joined(std::string folder, const std::string& name) {
-  if (folder.empty() || folder.back() != '/') folder += '/';
-  return folder + name;
+  return ui::WithTrailingSeparator(std::move(folder)) + name;
 }
 }  // namespace
 
@@ -107,12 +105,8 @@ void frmVoice::cboPathVar_Click() {
 }
 
 void frmVoice::drvVoice_Change() {
-  for (int attempt = 1;; ++attempt) {
-    const int error = dirVoice.SetPath(ui::disk().CurrentDirectory());
-    if (error == 0) return;
-    const int action = HandleDiskError("Change voice drive", error);
-    if (action != kDiskRetry || attempt >= kMaxRetries) return;
-  }
+  RetryDiskOperation("Change voice drive",
+                     [this] { return dirVoice.SetPath(ui::disk().CurrentDirectory()); });
 }
 
 void frmVoice::dirVoice_Change() {

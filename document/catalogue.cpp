@@ -9,11 +9,6 @@
 
 namespace kq {
 
-const int32_t kCatalogueLength[kFuncCount] = {
-    84,  60,  120, 108, 4, 180, 36, 112, 36,  40, 20,  40, 152, 52,  24, 4,   184, 888, 152,
-    120, 392, 112, 0,   0, 60,  36, 36,  236, 56, 236, 56, 56,  56,  56, 236, 0,   36,  76,
-    68,  68,  36,  32,  0, 4,   68, 64,  96,  96, 96,  72, 104, 104, 36, 116, 184, 612};
-
 namespace {
 
 const char* const kFuncNameText[kFuncCount] = {"Assign",
@@ -90,7 +85,6 @@ void FillNumbers(char (&rows)[R][W], int firstRow, int firstValue) {
 }  // namespace
 
 char FuncNames[kFuncCount][17];
-int32_t RecordLength[kFuncCount];
 
 char DataTypeNames[3][10];
 char PathTypeNames[5][15];
@@ -160,7 +154,6 @@ void InitNameTables() {
 }
 
 void GetFuncRecordLength() {
-  for (int i = 0; i < kFuncCount; ++i) RecordLength[i] = kCatalogueLength[i];
   for (int i = 0; i < kFuncCount; ++i) {
     if (RecordLength[i] > kBlockSize) {
       ui::ProgramError("Too large record in procedure GetFuncRecordLength " +

@@ -11,14 +11,18 @@ inline constexpr int kFuncCount = 56;
 inline constexpr int kBlockSize = 1024;
 
 // The record length of each slot as the catalogue gives it; 0 for the empty slots.
-extern const int32_t kCatalogueLength[kFuncCount];
+inline constexpr int32_t kCatalogueLength[kFuncCount] = {
+    84,  60,  120, 108, 4, 180, 36, 112, 36,  40, 20,  40, 152, 52,  24, 4,   184, 888, 152,
+    120, 392, 112, 0,   0, 60,  36, 36,  236, 56, 236, 56, 56,  56,  56, 236, 0,   36,  76,
+    68,  68,  36,  32,  0, 4,   68, 64,  96,  96, 96,  72, 104, 104, 36, 116, 184, 612};
 // True for 0 to 55 except the empty slots 22, 23, 35 and 42.
 bool IsLiveFunction(int funcNo);
 
 // Filled by InitNameTables: name, NUL, blanks (an empty slot holds a lone NUL, then blanks).
 extern char FuncNames[kFuncCount][17];
-// Filled by GetFuncRecordLength from the catalogue; empty slots stay 0.
-extern int32_t RecordLength[kFuncCount];
+// The record lengths the program works with: the catalogue's, checked against the block
+// size by GetFuncRecordLength at start.
+inline constexpr const int32_t (&RecordLength)[kFuncCount] = kCatalogueLength;
 
 // The name tables: blank-padded, no NUL.
 extern char DataTypeNames[3][10];
@@ -41,7 +45,7 @@ extern char TrimActionNames[3][19];
 extern char CounterActionNames[2][12];
 
 void InitNameTables();
-// Fills RecordLength and checks every entry against the block size.
+// Checks every record length against the block size.
 void GetFuncRecordLength();
 
 // A name table row as a text (the row with its padding).

@@ -23,6 +23,14 @@ int OkOnly(const std::string& text, const std::string& title) {
 
 }  // namespace
 
+int RetryDiskOperation(const std::string& title, const std::function<int()>& attempt) {
+  for (int tries = 1;; ++tries) {
+    const int err = attempt();
+    if (err == 0) return 0;
+    if (HandleDiskError(title, err) != kDiskRetry || tries >= kMaxRetries) return err;
+  }
+}
+
 int HandleDiskError(const std::string& title, int errorNumber) {
   switch (errorNumber) {
     case kErrDiskFull:

@@ -2,6 +2,7 @@
 // numbers for the errors this platform reports.
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace kq {
@@ -23,6 +24,15 @@ inline constexpr int kErrFileAccess = 75;
 
 // Shows the box for the error under the title and returns the action code.
 int HandleDiskError(const std::string& title, int errorNumber);
+
+// A retried statement gives up after this many attempts in a row, so that a platform
+// answering Retry by itself cannot hold the program forever.
+inline constexpr int kMaxRetries = 100;
+
+// Runs `attempt` (0, or the run-time error number of its failure) until it succeeds or
+// HandleDiskError under the title answers anything but Retry, at most kMaxRetries times.
+// 0 when it succeeded, otherwise the last error number.
+int RetryDiskOperation(const std::string& title, const std::function<int()>& attempt);
 
 // The system's error number for an errno value: 61 disk full, 68 device unavailable,
 // 70 permission denied, 71 not ready, 76 path not found; any other value is a file

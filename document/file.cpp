@@ -180,16 +180,13 @@ void SaveFile(std::string& title, std::string& fileName, bool saveAll, int first
   std::vector<uint8_t> bytes;
   BuildFile(bytes, firstLine, lastLine);
 
-  for (int attempt = 1;; ++attempt) {
-    const int err = WriteWholeFile(fileName, bytes.data(), bytes.size());
-    if (err == 0) break;
-    // Retry writes the whole file again. Leave, and raise (which would only repeat the
-    // error to a caller that has no handler of its own), end the command with the old
-    // file as it was.
-    if (HandleDiskError("Save", err) != kDiskRetry || attempt >= kMaxRetries) {
-      p.SetMousePointer(ui::vbDefault);
-      return;
-    }
+  // Retry writes the whole file again. Leave, and raise (which would only repeat the error
+  // to a caller that has no handler of its own), end the command with the old file as it
+  // was.
+  if (RetryDiskOperation(
+          "Save", [&] { return WriteWholeFile(fileName, bytes.data(), bytes.size()); }) != 0) {
+    p.SetMousePointer(ui::vbDefault);
+    return;
   }
 
   if (Shell.addRecentFile) Shell.addRecentFile(fileName);

@@ -10,12 +10,9 @@ namespace kq {
 
 bool ReadFileForCommand(const std::string& title, const std::string& path,
                         std::vector<uint8_t>& bytes) {
-  for (int attempt = 1;; ++attempt) {
-    const int err = ReadWholeFile(path, bytes, kMaxKqxFileSize);
-    if (err == 0) return true;
-    // Leave, raise and any other answer end the command; the document is untouched.
-    if (HandleDiskError(title, err) != kDiskRetry || attempt >= kMaxRetries) return false;
-  }
+  // Leave, raise and any other answer end the command; the document is untouched.
+  return RetryDiskOperation(title, [&] { return ReadWholeFile(path, bytes, kMaxKqxFileSize); }) ==
+         0;
 }
 
 Hourglass::Hourglass() {

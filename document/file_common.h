@@ -26,8 +26,4 @@ struct Hourglass {
   Hourglass& operator=(const Hourglass&) = delete;
 };
 
-// A retried statement gives up after this many attempts in a row, so that a platform
-// answering Retry by itself cannot hold the program forever.
-inline constexpr int kMaxRetries = 100;
-
 }  // namespace kq

@@ -347,6 +347,15 @@ inline constexpr std::array<FunctionInfo, kFuncCount> kFunctions = [] {
 #undef KQ_REC
 #undef KQ_AT
 
+static_assert(
+    [] {
+      for (int n = 0; n < kFuncCount; ++n) {
+        if (kFunctions[static_cast<size_t>(n)].size != kCatalogueLength[n]) return false;
+      }
+      return true;
+    }(),
+    "every record of the table has the catalogue's length");
+
 // The entry of a function number; nullptr outside 0 to 55.
 constexpr const FunctionInfo* FunctionOf(int funcNo) {
   if (funcNo < 0 || funcNo >= kFuncCount) return nullptr;

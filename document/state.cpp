@@ -48,6 +48,10 @@ ui::ListBox& EditList() {
   return *g_editList;
 }
 
+ui::ListBox* InstalledEditList() {
+  return g_editList;
+}
+
 void SetEditList(ui::ListBox* list) {
   g_editList = list;
 }

@@ -59,6 +59,8 @@ extern bool FuncPick;
 // of the line texts. The main window registers its list here at start.
 ui::ListBox& EditList();
 void SetEditList(ui::ListBox* list);
+// The list registered now, or null.
+ui::ListBox* InstalledEditList();
 
 // The main window, on which CenterForm centres the dialogs; registered by the main window
 // at start. Null until then: dialogs are then centred on the screen.

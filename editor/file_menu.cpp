@@ -10,6 +10,7 @@
 #include "editor/frm_edit.h"
 #include "editor/settings.h"
 #include "editor/undo_menus.h"
+#include "ui/platform/disk.h"
 #include "ui/platform/platform.h"
 
 namespace kq {
@@ -59,9 +60,7 @@ void FrmEdit::mnuFileItem_Click(int index) {
     case 0: {  // New: nothing is written until the first save
       if (!GuardOpenDocument()) return;
       ApplFileTitle = "temp.kqx";
-      ApplFileName = ApplPathName;
-      if (ApplFileName.empty() || ApplFileName.back() != '/') ApplFileName += '/';
-      ApplFileName += ApplFileTitle;
+      ApplFileName = ui::WithTrailingSeparator(ApplPathName) + ApplFileTitle;
       NewFile();
       break;
     }

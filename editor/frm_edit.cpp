@@ -15,6 +15,7 @@
 #include "editor/settings.h"
 #include "editor/tool_forms.h"
 #include "editor/undo_menus.h"
+#include "ui/platform/disk.h"
 #include "ui/platform/platform.h"
 
 namespace kq {
@@ -25,10 +26,8 @@ FrmEdit* g_mainWindow = nullptr;
 
 constexpr int kSpeechCodes[kSpeechItems] = {0, 1, 2, 3, 6, 7, 8};
 
-// A directory with one trailing separator.
 std::string WithSeparator(const std::string& dir) {
-  if (!dir.empty() && dir.back() == '/') return dir;
-  return dir + '/';
+  return ui::WithTrailingSeparator(dir);
 }
 
 int Scaled(int screen, double factor) {

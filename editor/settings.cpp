@@ -10,8 +10,8 @@ namespace kq {
 
 namespace {
 
-constexpr const char* kApp = "KQEdit";
-constexpr const char* kSection = "Settings";
+constexpr const char* kApp = ui::kSettingsApplication;
+constexpr const char* kSection = ui::kSettingsSection;
 
 constexpr SettingKey kSettings[] = {
     {EditorSetting::WindowState, "frmEditWindowStateNumber", "0"},

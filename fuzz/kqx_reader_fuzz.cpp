@@ -9,6 +9,7 @@
 #include "document/catalogue.h"
 #include "document/document.h"
 #include "document/file.h"
+#include "document/run_scope.h"
 #include "document/state.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/model/form.h"
@@ -25,12 +26,7 @@ class ListHost : public ui::Form {
 struct Harness {
   ui::HeadlessPlatform platform;
   ListHost host;
-  Harness() {
-    ui::SetPlatform(&platform);
-    kq::SetEditList(&host.lstEdit);
-    kq::InitNameTables();
-    kq::GetFuncRecordLength();
-  }
+  kq::RunScope run{{&platform, &host.lstEdit}};
   void Fresh() {
     platform.ClearEvents();
     kq::InitDocument();

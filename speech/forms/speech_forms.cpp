@@ -15,15 +15,13 @@ namespace kq {
 
 namespace {
 
-constexpr const char* kApp = "KQEdit";
-constexpr const char* kSection = "Settings";
-constexpr int kMaxRetries = 100;  // a Retry answered for ever must not hang the dialog
+constexpr const char* kApp = ui::kSettingsApplication;
+constexpr const char* kSection = ui::kSettingsSection;
 constexpr int kWaveFormat = 4;
 constexpr int16_t kRate = 8;
 
 std::string WithSeparator(std::string folder) {
-  if (folder.empty() || folder.back() != '/') folder += '/';
-  return folder;
+  return ui::WithTrailingSeparator(std::move(folder));
 }
 
 }  // namespace
@@ -68,13 +66,10 @@ void ShowFileSetting(DiskLists lists, const FileSetting& setting, bool selectFil
 }
 
 void FollowDrive(DiskLists lists, const std::string& title) {
-  for (int attempt = 1;; ++attempt) {
-    int error = lists.dir.SetPath(ui::disk().CurrentDirectory());
-    if (error == 0) error = ui::disk().ChangeDirectory(lists.dir.Path());
-    if (error == 0) return;
-    const int action = HandleDiskError(title, error);
-    if (action != kDiskRetry || attempt >= kMaxRetries) return;
-  }
+  RetryDiskOperation(title, [&lists] {
+    const int error = lists.dir.SetPath(ui::disk().CurrentDirectory());
+    return error != 0 ? error : ui::disk().ChangeDirectory(lists.dir.Path());
+  });
 }
 
 void FollowDirectory(DiskLists lists) {

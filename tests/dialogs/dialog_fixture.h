@@ -6,6 +6,7 @@
 
 #include <cstring>
 #include <functional>
+#include <optional>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -14,6 +15,7 @@
 #include "dialogs/func_dialog.h"
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/run_scope.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "tests/support/doc_builder.h"
@@ -29,27 +31,18 @@ namespace kqtest {
 class DialogTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    ui::SetPlatform(&p);
-    kq::InitDocument();
-    kq::InitNameTables();
-    kq::GetFuncRecordLength();
+    run.emplace(kq::RunParts{&p, &window.lstEdit, &window});
     // A working record left over from elsewhere: the dialogs must not depend on it.
     std::memset(&kq::WorkRecord, 0x55, sizeof kq::WorkRecord);
     kq::PrgHdr.CompiledFlag = -1;
     window.Move(1000, 500, 12000, 9000);
-    kq::SetEditList(&window.lstEdit);
-    kq::SetMainWindow(&window);
     kq::FuncModify = false;
     kq::FuncOk = false;
     kq::FuncPick = false;
     kq::ChangedFlag = false;
     kq::ShowAllFunctions = false;
   }
-  void TearDown() override {
-    kq::SetMainWindow(nullptr);
-    kq::SetEditList(nullptr);
-    ui::SetPlatform(nullptr);
-  }
+  void TearDown() override { run.reset(); }
 
   // Declares a variable in the next free entry.
   static void AddVariable(const std::string& name, int32_t type) {
@@ -147,6 +140,7 @@ class DialogTest : public ::testing::Test {
 
   ui::HeadlessPlatform p;
   kq::test::EditHost window;
+  std::optional<kq::RunScope> run;
 };
 
 // The bytes of a record as they will stand in the line's block.

@@ -78,3 +78,41 @@ TEST(SystemErrorNumber, MapsTheErrorsOfThisPlatform) {
 }
 
 }  // namespace
+
+// The one retry loop of file and drive operations: Retry runs the statement again, any
+// other answer ends it with the last error, and a platform answering Retry by itself is
+// given up on after kMaxRetries attempts.
+TEST_F(DiskErrorTest, RetryLoopRunsAgainOnRetryAndGivesUp) {
+  int calls = 0;
+  p_.QueueAnswer(ui::vbRetry);
+  EXPECT_EQ(0, RetryDiskOperation("Save", [&] { return ++calls < 2 ? kErrDiskFull : 0; }));
+  EXPECT_EQ(2, calls);
+  ASSERT_EQ(1, p_.CountOf("msgbox"));
+  EXPECT_EQ("Save", p_.EventsOf("msgbox")[0].fields["title"].Str());
+
+  calls = 0;
+  p_.ClearEvents();
+  p_.QueueAnswer(ui::vbRetry);
+  p_.QueueAnswer(ui::vbCancel);
+  EXPECT_EQ(kErrDiskNotReady, RetryDiskOperation("Open", [&] {
+              return ++calls == 1 ? kErrDiskFull : kErrDiskNotReady;
+            }));
+  EXPECT_EQ(2, calls);
+  EXPECT_EQ(2, p_.CountOf("msgbox"));
+
+  // No box answers for the write-protected error but OK, which leaves at once.
+  calls = 0;
+  EXPECT_EQ(kErrPermissionDenied, RetryDiskOperation("Save", [&] {
+              ++calls;
+              return kErrPermissionDenied;
+            }));
+  EXPECT_EQ(1, calls);
+
+  calls = 0;
+  for (int i = 0; i < kMaxRetries + 5; ++i) p_.QueueAnswer(ui::vbRetry);
+  EXPECT_EQ(kErrDiskFull, RetryDiskOperation("Save", [&] {
+              ++calls;
+              return kErrDiskFull;
+            }));
+  EXPECT_EQ(kMaxRetries, calls);
+}

@@ -104,16 +104,14 @@ Rec LineRecord(int line) {
 }
 
 DocFixture::DocFixture() {
-  ui::SetPlatform(&platform);
   host = std::make_unique<EditHost>();
-  SetEditList(&host->lstEdit);
+  run.emplace(RunParts{&platform, &host->lstEdit});
   ResetDocument();
 }
 
 DocFixture::~DocFixture() {
-  SetEditList(nullptr);
+  run.reset();
   host.reset();
-  ui::SetPlatform(nullptr);
 }
 
 }  // namespace kq::test

@@ -5,10 +5,12 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "document/record_view.h"
+#include "document/run_scope.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "ui/headless/headless_platform.h"
@@ -61,6 +63,7 @@ class DocFixture {
   ~DocFixture();
   ui::HeadlessPlatform platform;
   std::unique_ptr<EditHost> host;
+  std::optional<RunScope> run;
   ui::ListBox& list() { return host->lstEdit; }
   void Add(const std::string& label, const Rec& rec) { AddLine(list(), label, rec); }
 };

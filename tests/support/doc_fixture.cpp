@@ -111,12 +111,7 @@ Snapshot Snapshot::Take() {
 }
 
 void DocTest::SetUp() {
-  ui::SetPlatform(&platform_);
-  SetEditList(&host_.lstEdit);
-  Shell = {};
-  InitNameTables();
-  GetFuncRecordLength();
-  InitDocument();
+  run_.emplace(RunParts{&platform_, &host_.lstEdit});
   std::memset(LineTable, 0, sizeof(ProgramLine) * 16);
   const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
   dir_ = (std::filesystem::path(::testing::TempDir()) / "kqdoc" / info->test_suite_name() /
@@ -127,9 +122,7 @@ void DocTest::SetUp() {
 }
 
 void DocTest::TearDown() {
-  SetEditList(nullptr);
-  ui::SetPlatform(nullptr);
-  Shell = {};
+  run_.reset();
   std::filesystem::remove_all(dir_);
 }
 

@@ -5,12 +5,14 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "document/byte_reader.h"
 #include "document/header.h"
 #include "document/records.h"
+#include "document/run_scope.h"
 #include "tests/support/doc_builder.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/model/form.h"
@@ -63,6 +65,7 @@ class DocTest : public ::testing::Test {
 
   ui::HeadlessPlatform platform_;
   kq::test::EditHost host_;
+  std::optional<kq::RunScope> run_;
   std::string dir_;
 };
 

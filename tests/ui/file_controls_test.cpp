@@ -31,8 +31,8 @@ class FileControlsTest : public ::testing::Test {
     for (const char* d : {"beta", "Alpha", "gamma/inner", ".hidden"}) {
       fs::create_directories(root / d);
     }
-    for (const char* f : {"b.WAV", "a.wav", "c.vox", "README", ".secret"}) {
-      std::ofstream(root / f) << "x";
+    for (const char* name : {"b.WAV", "a.wav", "c.vox", "README", ".secret"}) {
+      std::ofstream(root / name) << "x";
     }
     base = root.string();
     f.dir.OnChange = [this] { ++dirChanges; };
@@ -53,6 +53,15 @@ class FileControlsTest : public ::testing::Test {
   DiskForm f;
   int dirChanges = 0, driveChanges = 0, pathChanges = 0, patternChanges = 0;
 };
+
+// Every folder that gets a file name behind it takes one trailing separator, never two.
+TEST(TrailingSeparator, AddedOnceAndOnlyWhenMissing) {
+  EXPECT_EQ("/home/a/", ui::WithTrailingSeparator("/home/a"));
+  EXPECT_EQ("/home/a/", ui::WithTrailingSeparator("/home/a/"));
+  EXPECT_EQ("/", ui::WithTrailingSeparator("/"));
+  EXPECT_EQ("/", ui::WithTrailingSeparator(""));
+  EXPECT_EQ("rel/", ui::WithTrailingSeparator("rel"));
+}
 
 TEST_F(FileControlsTest, DirectoryListShowsSubFoldersAndAncestors) {
   ASSERT_EQ(f.dir.SetPath(base + "/"), 0);  // the trailing separator is not kept

@@ -251,7 +251,7 @@ void HeadlessPlatform::SaveSetting(const std::string& app, const std::string& se
 bool HeadlessPlatform::LoadSettingsFile(const std::string& path) {
   std::ifstream in(path, std::ios::binary);
   if (!in) return false;
-  auto& s = SettingsOf("KQEdit", "Settings");
+  auto& s = SettingsOf(kSettingsApplication, kSettingsSection);
   std::string line;
   while (std::getline(in, line)) {
     if (!line.empty() && line.back() == '\r') line.pop_back();

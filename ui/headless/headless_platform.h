@@ -31,7 +31,7 @@ struct ModalNotDriven : std::logic_error {
 // Thrown, when the replies are strict, by a box that a queued answer names no button of.
 // `line` is the script line that queued the answer.
 struct ReplyMismatch : std::logic_error {
-  ReplyMismatch(int line, const std::string& text) : std::logic_error(text), line(line) {}
+  ReplyMismatch(int atLine, const std::string& text) : std::logic_error(text), line(atLine) {}
   int line;
 };
 

@@ -198,7 +198,7 @@ class Runner {
   void Setting(const std::vector<Token>& t) {
     Arity(t, 3);
     if (!t[1].quoted || !t[2].quoted) Wrong("setting takes a quoted key and a quoted value");
-    p_.SaveSetting("KQEdit", "Settings", t[1].text, t[2].text);
+    p_.SaveSetting(kSettingsApplication, kSettingsSection, t[1].text, t[2].text);
   }
 
   // clipboard "type" "bytes" puts one format on the clipboard (as another program would);

@@ -104,6 +104,11 @@ void SetDisk(Disk* d) {
   current = d != nullptr ? d : &systemDisk;
 }
 
+std::string WithTrailingSeparator(std::string folder) {
+  if (folder.empty() || folder.back() != '/') folder += '/';
+  return folder;
+}
+
 std::string FullFolder(const std::string& folder) {
   if (NamesForeignDrive(folder)) return folder;
   fs::path p(folder);

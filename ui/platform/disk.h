@@ -34,6 +34,10 @@ void SetDisk(Disk* d);
 // no trailing separator except on the root "/".
 std::string FullFolder(const std::string& folder);
 
+// The folder with one trailing separator of this platform: added unless it ends in one
+// (an empty folder gives the root).
+std::string WithTrailingSeparator(std::string folder);
+
 // A drive letter and colon ("C:", "C:\DATA\") names a drive this platform does not have.
 bool NamesForeignDrive(const std::string& path);
 

@@ -16,6 +16,10 @@ Platform& platform() {
   return *g_platform;
 }
 
+Platform* InstalledPlatform() {
+  return g_platform;
+}
+
 void SetPlatform(Platform* p) {
   g_platform = p;
 }

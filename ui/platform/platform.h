@@ -11,6 +11,10 @@
 
 namespace ui {
 
+// The application and section under which the program keeps its settings.
+inline constexpr char kSettingsApplication[] = "KQEdit";
+inline constexpr char kSettingsSection[] = "Settings";
+
 class Form;
 class Control;
 
@@ -122,6 +126,8 @@ class Platform {
 
 Platform& platform();
 void SetPlatform(Platform* p);
+// The platform installed now, or null.
+Platform* InstalledPlatform();
 
 // A state that cannot occur: the critical box titled "Program Error", then the end.
 [[noreturn]] void ProgramError(const std::string& text);

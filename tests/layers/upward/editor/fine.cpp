@@ -1,0 +1,2 @@
+// The editor may include the document.
+#include "document/upward.h"
