@@ -9,8 +9,8 @@ cmake_minimum_required(VERSION 3.25)
 # ---- The rule table: folder, then the folders it may include (lowest layers first).
 set(KQ_UI ui/platform ui/model)
 set(KQ_CORE ${KQ_UI} document)
-set(KQ_BELOW_EDITOR ${KQ_CORE} speech/codec dialogs speech/forms sim)
-set(KQ_BELOW_TOOLS ${KQ_BELOW_EDITOR} editor ui/headless textform check diagram prompts)
+set(KQ_BELOW_EDITOR ${KQ_CORE} speech/codec dialogs speech/forms sim textform prompts)
+set(KQ_BELOW_TOOLS ${KQ_BELOW_EDITOR} editor ui/headless check diagram check/forms)
 
 set(KQ_RULE_ui/platform "")
 set(KQ_RULE_ui/model ui/platform)
@@ -21,12 +21,14 @@ set(KQ_RULE_speech/codec ui/platform)  # the codec needs nothing of the document
 set(KQ_RULE_dialogs ${KQ_CORE} speech/codec)
 set(KQ_RULE_speech/forms ${KQ_CORE} speech/codec dialogs)
 set(KQ_RULE_sim ${KQ_CORE} speech/codec)
+# The work beyond the description that the editor's menus use: below the editor.
+set(KQ_RULE_textform ${KQ_CORE} ui/headless speech/codec dialogs)
+set(KQ_RULE_prompts ${KQ_CORE} speech/codec)
 set(KQ_RULE_editor ${KQ_BELOW_EDITOR})
-# The work beyond the description: on the document and the editor, below app and cli.
-set(KQ_RULE_textform ${KQ_BELOW_EDITOR} editor)
-set(KQ_RULE_check ${KQ_BELOW_EDITOR} editor textform)
-set(KQ_RULE_diagram ${KQ_BELOW_EDITOR} editor check textform)
-set(KQ_RULE_prompts ${KQ_BELOW_EDITOR} editor)
+# The checks stand on compile, the diagram on the checks' flow, their windows on both.
+set(KQ_RULE_check ${KQ_BELOW_EDITOR} editor ui/headless)
+set(KQ_RULE_diagram ${KQ_CORE} check)
+set(KQ_RULE_check/forms ${KQ_BELOW_EDITOR} editor ui/headless check diagram)
 set(KQ_RULE_cli ${KQ_BELOW_TOOLS})
 set(KQ_RULE_app ${KQ_BELOW_TOOLS} ui/qt)
 set(KQ_UNRESTRICTED tests bench fuzz)
@@ -36,7 +38,7 @@ if(NOT SOURCE_DIR)
   message(FATAL_ERROR "SOURCE_DIR is not set")
 endif()
 set(KQ_FOLDERS ui/platform ui/model ui/headless ui/qt document speech/codec dialogs speech/forms
-    sim editor textform check diagram prompts cli app)
+    sim textform prompts editor check diagram check/forms cli app)
 
 # The folder of a path relative to the repository: the longest folder with a rule that it
 # lies in, or its first component when none fits.
