@@ -11,11 +11,6 @@
 
 namespace kq {
 
-namespace {
-
-constexpr int kMaxRetries = 100;  // a Retry answered for ever must not hang the dialog
-
-}  // namespace
 
 frmDefPath::frmDefPath()
     : DeclarationForm("frmDefPath", "Define Paths", "Path name", "path names") {

@@ -2,7 +2,7 @@
 
 namespace kq {
 
-ExtraWindows& Extras() {
+ExtraWindows& ExtraWindowHooks() {
   static ExtraWindows extras;
   return extras;
 }

@@ -11,6 +11,6 @@ struct ExtraWindows {
   std::function<void()> checkAll;
   std::function<void()> callFlow;
 };
-ExtraWindows& Extras();
+ExtraWindows& ExtraWindowHooks();
 
 }  // namespace kq

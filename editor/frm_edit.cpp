@@ -141,10 +141,10 @@ void FrmEdit::WireEvents() {
   mnuToolsPrompts.OnClick = [] { MakeMissingPromptsCommand(); };
   mnuCompile.OnClick = [this] { mnuCompile_Click(); };
   mnuCheckAll.OnClick = [] {
-    if (Extras().checkAll) Extras().checkAll();
+    if (ExtraWindowHooks().checkAll) ExtraWindowHooks().checkAll();
   };
   mnuGotoCallFlow.OnClick = [] {
-    if (Extras().callFlow) Extras().callFlow();
+    if (ExtraWindowHooks().callFlow) ExtraWindowHooks().callFlow();
   };
   mnuPrint.OnClick = [this] { mnuPrint_Click(); };
   mnuRecording.OnClick = [this] { mnuRecording_Click(); };

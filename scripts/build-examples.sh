@@ -1,7 +1,8 @@
 #!/bin/sh
 # Rebuilds the example applications in examples/ with the headless editor: first the
 # spoken placeholder prompts that the voice dialogs choose from, then the application by
-# its script (which compiles and saves it), then its listing.
+# its script (which compiles and saves it), its path texts made relative to its folder, then
+# its listing.
 # Usage: scripts/build-examples.sh [KQX]   (KQX: the kqx program, default build/dev/cli/kqx)
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -15,6 +16,11 @@ for name in balance reminder mailbox; do
     rm -f "$name.kqx" &&
     "$kqx" script "$name.kqs" --home "$dir" > "$name.events" &&
     ! grep -q '"event":"\(refused\|error\)"\|Compilation Error' "$name.events" &&
+    # The path dialogs give whole folder names; the example keeps them relative to its own
+    # folder, so that it works wherever it is copied (the text form carries the change).
+    "$kqx" export "$name.kqx" | sed "s#\"path\":\"$dir/#\"path\":\"#" > "$name.json" &&
+    "$kqx" import "$name.json" -o "$name.kqx" > /dev/null &&
+    rm -f "$name.json" &&
     "$kqx" list "$name.kqx" -o "$name.lst" --now "2026-01-01 09:00:00" > /dev/null &&
     "$kqx" prompts "$name.kqx" --texts prompts.csv > /dev/null) || {
     echo "failed: $name (see $dir/$name.events)" >&2

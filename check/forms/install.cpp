@@ -7,8 +7,8 @@
 namespace kq {
 
 void InstallCheckWindows() {
-  Extras().checkAll = [] { ShowCheckAll(); };
-  Extras().callFlow = [] { ShowCallFlow(); };
+  ExtraWindowHooks().checkAll = [] { ShowCheckAll(); };
+  ExtraWindowHooks().callFlow = [] { ShowCallFlow(); };
 }
 
 }  // namespace kq

@@ -112,8 +112,8 @@ TEST_F(LintGraphCliTest, BadInputIsRefusedWithAMessageAndNothingWritten) {
                                         {"graph"},
                                         {"graph", path, "-o"},
                                         {"graph", path, "--out", "x.dot"}}) {
-    EXPECT_EQ(Run(args), 1) << args.size();
-    EXPECT_NE(err_.str().find("usage: kqx"), std::string::npos);
+    EXPECT_EQ(Run(args), kqx::kExitUsage) << args.size();
+    EXPECT_NE(err_.str().find("Usage: kqx"), std::string::npos);
   }
   const std::string intoNothing = TempPath("no/such/folder/flow.svg");
   EXPECT_EQ(Run({"graph", path, "-o", intoNothing}), 1);

@@ -1,5 +1,7 @@
 // The tables: the SQL store's record numbers, the CSV reader, and the seeding that refuses
 // a wrong CSV before anything is written.
+#include <unistd.h>
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -74,8 +76,10 @@ class SimTablesTest : public ::testing::Test {
   void SetUp() override {
     app.Long("ID").String("NAME").Double("AMT");
     app.Table("CUST", {"ID", "NAME", "AMT"});
+    // One folder per test and process: ctest runs the tests of this fixture side by side.
+    const ::testing::TestInfo* test = ::testing::UnitTest::GetInstance()->current_test_info();
     dir = fs::temp_directory_path() /
-          ("kq-tables-" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()));
+          ("kq-tables-" + std::string(test->name()) + "-" + std::to_string(::getpid()));
     fs::remove_all(dir);
     fs::create_directories(dir);
   }
