@@ -13,6 +13,8 @@ for name in balance reminder mailbox; do
   echo "== $name"
   (cd "$dir" &&
     "$kqx" prompts --into voice --texts prompts.csv > /dev/null &&
+    { [ ! -f numbers/digits.csv ] ||
+      "$kqx" prompts --into numbers --texts numbers/digits.csv > /dev/null; } &&
     rm -f "$name.kqx" &&
     "$kqx" script "$name.kqs" --home "$dir" > "$name.events" &&
     ! grep -q '"event":"\(refused\|error\)"\|Compilation Error' "$name.events" &&
