@@ -38,8 +38,7 @@ int Lint(Session& session, const LintArgs& a) {
 
 void AddLintCommand(CLI::App& app, Session& session) {
   auto a = std::make_shared<LintArgs>();
-  CLI::App* cmd =
-      app.add_subcommand("lint", "Every fault compile would find, then the warnings");
+  CLI::App* cmd = app.add_subcommand("lint", "Every fault compile would find, then the warnings");
   cmd->add_option("FILE", a->file, "the application file")->required();
   cmd->add_option("--format", a->format, "json (default) or text")
       ->check(CLI::IsMember({"json", "text"}));

@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <mutex>
 
 #include "ui/platform/codepage.h"
 
@@ -66,9 +67,18 @@ const char* EdgeColor(check::EdgeKind kind) {
   return "black";
 }
 
-struct ContextDeleter {
-  void operator()(GVC_t* c) const { gvFreeContext(c); }
-};
+// One layout context for the process: the text-measuring plugin keeps what it learns of the
+// fonts beyond a context, so a context freed and made again would let it read freed memory.
+// The library is not made for two layouts at once, hence the lock.
+GVC_t* Context() {
+  static GVC_t* const context = gvContext();
+  return context;
+}
+std::mutex& LayoutLock() {
+  static std::mutex lock;
+  return lock;
+}
+
 struct GraphDeleter {
   void operator()(Agraph_t* g) const { agclose(g); }
 };
@@ -99,8 +109,9 @@ int LineOfNode(const std::string& name) {
 
 bool Render(const check::FlowGraph& graph, const std::vector<std::string>& texts, Format format,
             std::string& output, std::string& error) {
-  std::unique_ptr<GVC_t, ContextDeleter> gvc(gvContext());
-  if (!gvc) {
+  const std::lock_guard<std::mutex> hold(LayoutLock());
+  GVC_t* const gvc = Context();
+  if (gvc == nullptr) {
     error = "the graph layout library could not start";
     return false;
   }
@@ -157,15 +168,14 @@ bool Render(const check::FlowGraph& graph, const std::vector<std::string>& texts
     Set(edge, "class", check::EdgeKindName(e.kind));
   }
 
-  if (gvLayout(gvc.get(), g.get(), "dot") != 0) {
+  if (gvLayout(gvc, g.get(), "dot") != 0) {
     error = "the graph layout library could not lay out the diagram";
     return false;
   }
   char* data = nullptr;
   unsigned int length = 0;
-  const int rc =
-      gvRenderData(gvc.get(), g.get(), format == Format::Dot ? "dot" : "svg", &data, &length);
-  gvFreeLayout(gvc.get(), g.get());
+  const int rc = gvRenderData(gvc, g.get(), format == Format::Dot ? "dot" : "svg", &data, &length);
+  gvFreeLayout(gvc, g.get());
   if (rc != 0 || data == nullptr) {
     if (data != nullptr) gvFreeRenderData(data);
     error = "the graph layout library could not render the diagram";

@@ -11,7 +11,6 @@
 
 namespace kq {
 
-
 frmDefPath::frmDefPath()
     : DeclarationForm("frmDefPath", "Define Paths", "Path name", "path names") {
   Bind({txtName, lstVariable, lstDataType, cmdAdd, cmdModify, cmdDelete, cmdClear, cmdOk,

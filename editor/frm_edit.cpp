@@ -83,10 +83,10 @@ void FrmEdit::BuildMenus() {
     int help;
     bool enabled;
   };
-  const Top tops[] = {{&mnuFile, 20, true},     {&mnuEdit, 30, false},    {&mnuDefine, 40, false},
-                      {&mnuGoto, 50, false},    {&mnuCompile, 60, false}, {&mnuCheckAll, 60, true},
-                      {&mnuPrint, 70, false},   {&mnuRecording, 75, true}, {&mnuListen, 80, true},
-                      {&mnuConvert, 90, true},  {&mnuRun, 0, true},        {&mnuHelp, 10, true}};
+  const Top tops[] = {{&mnuFile, 20, true},    {&mnuEdit, 30, false},     {&mnuDefine, 40, false},
+                      {&mnuGoto, 50, false},   {&mnuCompile, 60, false},  {&mnuCheckAll, 60, true},
+                      {&mnuPrint, 70, false},  {&mnuRecording, 75, true}, {&mnuListen, 80, true},
+                      {&mnuConvert, 90, true}, {&mnuRun, 0, true},        {&mnuHelp, 10, true}};
   for (const Top& t : tops) {
     t.menu->SetHelpContextID(t.help);
     t.menu->SetEnabled(t.enabled);

@@ -214,17 +214,17 @@ TEST_F(ExamplesTest, BadVoiceAndBadTextsAreRefusedWithNothingMade) {
 // prompts and tables: the call goes the way the example is made for, and ends well.
 TEST_F(ExamplesTest, EachAnswersItsScriptedCall) {
   const std::pair<const char*, const char*> kWayOfTheCall[] = {
-      {"balance", "BALANCE_IS.VOX"},                            // the PIN matched its row
+      {"balance", "BALANCE_IS.VOX"},                               // the PIN matched its row
       {"reminder", R"("number":"5550101","outcome":"answered")"},  // the first patient
-      {"mailbox", R"("event":"record")"},                       // a message was left
+      {"mailbox", R"("event":"record")"},                          // a message was left
   };
   for (const auto& [name, sign] : kWayOfTheCall) {
     SCOPED_TRACE(name);
     const fs::path example = fs::path(KQ_EXAMPLES_DIR) / name;
     fs::current_path(example);  // the path texts are relative to the example's folder
     const fs::path sandbox = dir_ / (std::string(name) + "-sandbox");
-    EXPECT_EQ(Run({"run", std::string(name) + ".kqx", "--call", "call.json", "--hangup",
-                   "--tables", "tables", "--sandbox", sandbox.string()}),
+    EXPECT_EQ(Run({"run", std::string(name) + ".kqx", "--call", "call.json", "--hangup", "--tables",
+                   "tables", "--sandbox", sandbox.string()}),
               0)
         << err_.str();
     const std::string trace = out_.str();
