@@ -1,6 +1,6 @@
 // The rows of one program line in the listing. The captions are written as the authors
 // aligned them by hand for each function ("Error label = ", "Error  label = " ...); they
-// differ on purpose and are kept per function.
+// differ from one function to the next and are kept per function.
 #include <cstring>
 
 #include "document/catalogue.h"
