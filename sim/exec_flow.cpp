@@ -134,38 +134,43 @@ void Engine::ExecFlow(const uint8_t* block, int fn) {
 
 namespace {
 
-// Long arithmetic in 64 bits, checked against 32.
-std::optional<int32_t> LongOp(int64_t a, int64_t b, int op, std::string& why) {
-  int64_t r = 0;
+// The four operators 0 to 3 (+, -, *, /) in T; 4 (power) is the caller's. A division by
+// zero and an operator outside 0 to 4 are told in `why`.
+template <typename T>
+std::optional<T> Basic(T a, T b, int op, std::string& why) {
   switch (op) {
     case 0:
-      r = a + b;
-      break;
+      return a + b;
     case 1:
-      r = a - b;
-      break;
+      return a - b;
     case 2:
-      r = a * b;
-      break;
+      return a * b;
     case 3:
       if (b == 0) {
         why = "division by zero";
         return std::nullopt;
       }
-      r = a / b;
-      break;
-    case 4: {
-      const double p = std::pow(static_cast<double>(a), static_cast<double>(b));
-      if (!std::isfinite(p) || std::fabs(p) > 4e9) {
-        why = "overflow";
-        return std::nullopt;
-      }
-      r = static_cast<int64_t>(p);
-      break;
-    }
+      return a / b;
     default:
       why = "illegal operator";
       return std::nullopt;
+  }
+}
+
+// Long arithmetic in 64 bits, checked against 32.
+std::optional<int32_t> LongOp(int64_t a, int64_t b, int op, std::string& why) {
+  int64_t r = 0;
+  if (op == 4) {
+    const double p = std::pow(static_cast<double>(a), static_cast<double>(b));
+    if (!std::isfinite(p) || std::fabs(p) > 4e9) {
+      why = "overflow";
+      return std::nullopt;
+    }
+    r = static_cast<int64_t>(p);
+  } else if (const auto v = Basic(a, b, op, why)) {
+    r = *v;
+  } else {
+    return std::nullopt;
   }
   if (r < std::numeric_limits<int32_t>::min() || r > std::numeric_limits<int32_t>::max()) {
     why = "overflow";
@@ -175,32 +180,10 @@ std::optional<int32_t> LongOp(int64_t a, int64_t b, int op, std::string& why) {
 }
 
 std::optional<double> DoubleOp(double a, double b, int op, std::string& why) {
-  double r = 0;
-  switch (op) {
-    case 0:
-      r = a + b;
-      break;
-    case 1:
-      r = a - b;
-      break;
-    case 2:
-      r = a * b;
-      break;
-    case 3:
-      if (b == 0) {
-        why = "division by zero";
-        return std::nullopt;
-      }
-      r = a / b;
-      break;
-    case 4:
-      r = std::pow(a, b);
-      break;
-    default:
-      why = "illegal operator";
-      return std::nullopt;
-  }
-  if (!std::isfinite(r)) {
+  const std::optional<double> r =
+      op == 4 ? std::optional<double>(std::pow(a, b)) : Basic(a, b, op, why);
+  if (!r) return std::nullopt;
+  if (!std::isfinite(*r)) {
     why = "overflow";
     return std::nullopt;
   }

@@ -15,6 +15,7 @@
 #include "document/state.h"
 #include "document/text.h"
 #include "editor/line_editing.h"
+#include "tests/editor/edit_list_fixture.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/model/form.h"
 #include "ui/model/list_controls.h"
@@ -129,29 +130,9 @@ void ExpectSame(const Snapshot& fast, const Snapshot& literal) {
   }
 }
 
-class LineStores : public ::testing::Test {
+class LineStores : public test::EditListFixture {
  protected:
-  void SetUp() override {
-    ui::SetPlatform(&platform_);
-    InitNameTables();
-    GetFuncRecordLength();
-    InitDocument();
-    form_ = std::make_unique<ui::Form>("frmTest", "");
-    list_ = std::make_unique<ui::ListBox>(*form_, "lstEdit");
-    list_->SetMultiSelect(ui::ListBox::MultiSelect::Extended);
-    SetEditList(list_.get());
-    for (int f = 0; f < kFuncCount; ++f) {
-      if (IsLiveFunction(f)) live_.push_back(f);
-    }
-  }
-  void TearDown() override {
-    SetEditList(nullptr);
-    list_.reset();
-    form_.reset();
-  }
-
-  int RandomLive() { return live_[Pick(static_cast<int>(live_.size()))]; }
-  int Pick(int n) { return static_cast<int>(rng_() % static_cast<unsigned>(n)); }
+  LineStores() : EditListFixture(20261122) {}
 
   // A document of n lines over stores full of noise: every block byte random, every
   // entry (also behind the lines) a random line of a live function.
@@ -195,12 +176,6 @@ class LineStores : public ::testing::Test {
     uint8_t* image = WorkRecord.Image(FuncNo);
     for (int b = 0; b < RecordLength[FuncNo]; ++b) image[b] = static_cast<uint8_t>(Pick(256));
   }
-
-  ui::HeadlessPlatform platform_;
-  std::unique_ptr<ui::Form> form_;
-  std::unique_ptr<ui::ListBox> list_;
-  std::vector<int> live_;
-  std::mt19937 rng_{20261122};
 };
 
 TEST_F(LineStores, DeleteOfRandomSelectionsEqualsTheWalk) {

@@ -19,6 +19,7 @@
 #include "document/text.h"
 #include "editor/line_editing.h"
 #include "editor/undo_history.h"
+#include "tests/editor/edit_list_fixture.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/model/form.h"
 #include "ui/model/list_controls.h"
@@ -68,30 +69,9 @@ void ExpectSame(const State& want, const State& got, const std::string& where) {
   ASSERT_TRUE(want.header == got.header) << where << ": header";
 }
 
-class History : public ::testing::Test {
+class History : public test::EditListFixture {
  protected:
-  void SetUp() override {
-    ui::SetPlatform(&platform_);
-    InitNameTables();
-    GetFuncRecordLength();
-    InitDocument();
-    form_ = std::make_unique<ui::Form>("frmTest", "");
-    list_ = std::make_unique<ui::ListBox>(*form_, "lstEdit");
-    list_->SetMultiSelect(ui::ListBox::MultiSelect::Extended);
-    SetEditList(list_.get());
-    for (int f = 0; f < kFuncCount; ++f) {
-      if (IsLiveFunction(f)) live_.push_back(f);
-    }
-  }
-  void TearDown() override {
-    SetEditList(nullptr);
-    list_.reset();
-    form_.reset();
-    ui::SetPlatform(nullptr);
-  }
-
-  int Pick(int n) { return n <= 0 ? 0 : static_cast<int>(rng_() % static_cast<unsigned>(n)); }
-  int RandomLive() { return live_[static_cast<size_t>(Pick(static_cast<int>(live_.size())))]; }
+  History() : EditListFixture(20261124) {}
 
   void RandomLine(int i) {
     const int f = RandomLive();
@@ -237,11 +217,6 @@ class History : public ::testing::Test {
     EXPECT_FALSE(history_.CanRedo());
   }
 
-  ui::HeadlessPlatform platform_;
-  std::unique_ptr<ui::Form> form_;
-  std::unique_ptr<ui::ListBox> list_;
-  std::vector<int> live_;
-  std::mt19937 rng_{20261124};
   EditHistory history_;
 };
 
