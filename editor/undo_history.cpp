@@ -27,6 +27,7 @@ void EditHistory::Begin(std::string name, LineMoves moves) {
   selectedBefore_ =
       moves == LineMoves::DeleteSelected ? list.SelectedIndexes() : std::vector<int>();
   selectionBefore_ = CaptureSelection();
+  menusBefore_ = captureMenus ? captureMenus() : std::vector<bool>();
 }
 
 void EditHistory::End() {
@@ -49,7 +50,8 @@ void EditHistory::End() {
   }
   Delta delta = shadow_->Take(std::move(runs), std::move(selectionBefore_), CaptureSelection());
   if (delta.Empty()) return;
-  Step step{std::move(name_), std::move(delta), 0};
+  Step step{std::move(name_), std::move(delta), 0, std::move(menusBefore_),
+            captureMenus ? captureMenus() : std::vector<bool>()};
   step.bytes = step.delta.MemoryBytes() + step.name.capacity();
   stepBytes_ += step.bytes;
   undo_.push_back(std::move(step));
@@ -72,6 +74,8 @@ void EditHistory::Play(bool undo) {
   shadow_->Play(step.delta, undo);
   ChangedFlag = true;
   PrgHdr.CompiledFlag = 0;
+  const std::vector<bool>& menus = undo ? step.menusBefore : step.menusAfter;
+  if (restoreMenus && !menus.empty()) restoreMenus(menus);
   if (undo) {
     redo_.push_back(std::move(step));
   } else {

@@ -58,12 +58,19 @@ class EditHistory {
 
   // Called after every change of what Undo and Redo can do.
   std::function<void()> changed;
+  // The enabled states of the menus that the commands set, taken before and after each
+  // command; Undo puts back the states from before the command, Redo those after it, so
+  // that the menus stand as the command itself left them (a Clear leaves the File menu
+  // as it was, a Delete sets it by the line count).
+  std::function<std::vector<bool>()> captureMenus;
+  std::function<void(const std::vector<bool>&)> restoreMenus;
 
  private:
   struct Step {
     std::string name;
     Delta delta;
     size_t bytes = 0;
+    std::vector<bool> menusBefore, menusAfter;
   };
   void Play(bool undo);
   void Notify() {
@@ -82,6 +89,7 @@ class EditHistory {
   int currentBefore_ = -1;
   std::vector<int> selectedBefore_;
   ListSelection selectionBefore_;
+  std::vector<bool> menusBefore_;
 };
 
 // Runs a command inside the history: Begin at construction, End at destruction (no step

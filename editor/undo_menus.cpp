@@ -54,11 +54,22 @@ EditMenus::EditMenus(FrmEdit& form)
   mnuEditCopy.OnClick = [this] { mnuEditCopy_Click(); };
   mnuEditPaste.OnClick = [this] { mnuEditPaste_Click(); };
   history_.changed = [this] { Refresh(); };
+  history_.captureMenus = [this] {
+    std::vector<bool> states;
+    for (const ui::Menu* m : CommandMenus()) states.push_back(m->Enabled());
+    return states;
+  };
+  history_.restoreMenus = [this](const std::vector<bool>& states) {
+    const std::vector<ui::Menu*> menus = CommandMenus();
+    for (size_t i = 0; i < menus.size() && i < states.size(); ++i) menus[i]->SetEnabled(states[i]);
+  };
   Refresh();
 }
 
 EditMenus::~EditMenus() {
   history_.changed = nullptr;
+  history_.captureMenus = nullptr;
+  history_.restoreMenus = nullptr;
   for (ui::Menu* item :
        {&mnuEditSeparator, &mnuEditUndo, &mnuEditRedo, &mnuEditCut, &mnuEditCopy, &mnuEditPaste}) {
     form_.mnuEdit.Remove(*item);
@@ -96,6 +107,14 @@ void EditMenus::Refresh() {
   mnuEditCopy.SetEnabled(lines);
 }
 
+std::vector<ui::Menu*> EditMenus::CommandMenus() {
+  std::vector<ui::Menu*> menus;
+  for (int i = 2; i <= 7; ++i) menus.push_back(&form_.mnuFileItem[i]);
+  for (int i = 0; i < kEditItems; ++i) menus.push_back(&form_.mnuEditItem[i]);
+  for (ui::Menu* m : {&form_.mnuGoto, &form_.mnuCompile, &form_.mnuPrint}) menus.push_back(m);
+  return menus;
+}
+
 void EditMenus::FollowLineCount() {
   const int count = form_.lstEdit.ListCount();
   for (int i = 2; i <= 6; ++i) form_.mnuFileItem[i].SetEnabled(count != 0);
@@ -105,19 +124,14 @@ void EditMenus::FollowLineCount() {
   form_.mnuGoto.SetEnabled(count != 0);
   form_.mnuCompile.SetEnabled(count != 0);
   form_.mnuPrint.SetEnabled(count != 0);
-  Refresh();
 }
 
 void EditMenus::mnuEditUndo_Click() {
-  const int count = form_.lstEdit.ListCount();
   history_.Undo();
-  if (form_.lstEdit.ListCount() != count) FollowLineCount();
 }
 
 void EditMenus::mnuEditRedo_Click() {
-  const int count = form_.lstEdit.ListCount();
   history_.Redo();
-  if (form_.lstEdit.ListCount() != count) FollowLineCount();
 }
 
 void EditMenus::mnuEditCopy_Click() {
@@ -149,11 +163,9 @@ void EditMenus::mnuEditPaste_Click() {
       return;
   }
   const int count = form_.lstEdit.ListCount();
-  {
-    const EditScope scope(history_, "Paste", LineMoves::InsertAtCurrent);
-    std::string title = "Clipboard";
-    InsertFileBytes(title, image, form_.lstEdit.ListIndex());
-  }
+  const EditScope scope(history_, "Paste", LineMoves::InsertAtCurrent);
+  std::string title = "Clipboard";
+  InsertFileBytes(title, image, form_.lstEdit.ListIndex());
   if (form_.lstEdit.ListCount() != count) FollowLineCount();
 }
 

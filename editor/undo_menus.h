@@ -3,6 +3,8 @@
 // an EditScope for each command that may change the document.
 #pragma once
 
+#include <vector>
+
 #include "editor/undo_history.h"
 #include "ui/model/menu.h"
 
@@ -42,7 +44,9 @@ class EditMenus {
 
  private:
   void Refresh();
-  // The menus that follow the line count, after a command that changed it.
+  // The menus whose states the commands set, in one order.
+  std::vector<ui::Menu*> CommandMenus();
+  // The menus that follow the line count, after a paste that changed it.
   void FollowLineCount();
 
   FrmEdit& form_;

@@ -28,8 +28,8 @@ if [ "${KQ_SKIP_FUZZ:-0}" != 1 ] && command -v clang++ >/dev/null 2>&1; then
   CXX=clang++ cmake -S . -B build/fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DCMAKE_CXX_FLAGS="-fsanitize=fuzzer-no-link,address,undefined" \
     -DKQ_BUILD_QT=OFF -DKQ_BUILD_TESTS=OFF -DKQ_BUILD_BENCH=OFF -DKQ_BUILD_FUZZ=ON
-  cmake --build build/fuzz -j "$jobs" --target kqx_reader_fuzz wave_fuzz script_fuzz
-  for target in kqx_reader wave script; do
+  cmake --build build/fuzz -j "$jobs" --target kqx_reader_fuzz wave_fuzz script_fuzz textform_fuzz
+  for target in kqx_reader wave script textform; do
     # New inputs go to the build folder's corpus; the repository's is read only.
     mkdir -p build/fuzz/corpus/$target
     # pipefail makes a fuzzer's failure the script's

@@ -175,7 +175,7 @@ bool ParseDocument(std::string_view json, StagedDocument& doc, ImportError& erro
   Json root;
   try {
     root = Json::parse(json.begin(), json.end());
-  } catch (const Json::parse_error& e) {
+  } catch (const Json::exception& e) {  // a syntax fault, or a number out of range
     std::string what = e.what();
     if (const size_t end = what.find("] ");
         what.rfind("[json.exception", 0) == 0 && end != std::string::npos) {

@@ -121,6 +121,7 @@ TEST_F(TextFormTest, FaultsNameTheirPlace) {
   };
   const Case cases[] = {
       {"{\"format\":", "", "does not parse"},
+      {"{\"format\":1e99999}", "", "number overflow"},
       {"[]", "/", "expected an object"},
       {R"({"format":"other","version":"3.10"})", "/format", "expected"},
       {head + R"("variables":[],"paths":[],"tables":[]})", "/", "\"lines\" is missing"},
