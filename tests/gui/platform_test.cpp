@@ -262,7 +262,16 @@ TEST_F(PlatformTest, HelpShowsContentsIndexAndSearch) {
   EXPECT_TRUE(help->Search(QStringLiteral("zzzqqq")).isEmpty());
   help->query()->setText(QStringLiteral("variable"));
   QTest::keyClick(help->query(), Qt::Key_Return);
-  EXPECT_GT(help->results()->count(), 0);
+  ASSERT_GT(help->results()->count(), 0);
+  // A found topic and an index entry open their pages.
+  QListWidgetItem* topic = help->results()->item(help->results()->count() - 1);
+  emit help->results()->itemActivated(topic);
+  EXPECT_EQ(help->browser()->source().fileName(), topic->data(Qt::UserRole).toString());
+  EXPECT_TRUE(help->browser()->toPlainText().contains("variable", Qt::CaseInsensitive));
+  QListWidgetItem* keyword = help->index()->item(help->index()->count() / 2);
+  emit help->index()->itemClicked(keyword);
+  EXPECT_EQ(help->browser()->source().fileName(),
+            keyword->data(Qt::UserRole).toString().section(u'#', 0, 0));
   platform.Help(ui::HelpCommand::CloseAll);
   EXPECT_FALSE(help->isVisible());
 }
