@@ -3,7 +3,10 @@
 // cancelled dialog and a fault in the listing.
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
+#include <fstream>
+#include <functional>
 
 #include "document/state.h"
 #include "editor/commands.h"
@@ -11,6 +14,7 @@
 #include "editor/printing.h"
 #include "tests/support/doc_builder.h"
 #include "tests/support/test_text.h"
+#include "ui/platform/durable_file.h"
 
 namespace kq::test {
 namespace {
@@ -122,6 +126,33 @@ TEST_F(PrintingTest, FaultInTheListingKeepsThePartialFileAndPrintsNothing) {
   platform.QueuePrint(ui::PrintDialogRequest{0, 0, 1, 0});
   PrintCommand();
   EXPECT_NE(ReadText((dir / "app.TXT").string()).find("On/Off Hook"), std::string::npos);
+  EXPECT_EQ(platform.CountOf("page"), 0);
+  EXPECT_EQ(platform.CountOf("msgbox"), 0);
+}
+
+// A disk that fills up, a write that is refused and a folder that is gone: the printing
+// ends without a word, as any failure of the listing does, and the last listing stays
+// whole with no temporary file beside it.
+TEST_F(PrintingTest, AFailingWriteKeepsTheLastListingAndPrintsNothing) {
+  Remarks(40);
+  const fs::path listing = dir / "app.TXT";
+  const auto failures = {
+      std::function<void()>([] { ui::InjectDurableWriteFault(ENOSPC, 100, 1); }),
+      std::function<void()>([] { ui::InjectDurableStepFault(ui::DurableStep::Open, EACCES); }),
+      std::function<void()>([] { ui::InjectDurableStepFault(ui::DurableStep::Rename, EIO); }),
+  };
+  for (const auto& fail : failures) {
+    std::ofstream(listing, std::ios::binary) << "the last listing";
+    fail();
+    platform.QueuePrint(ui::PrintDialogRequest{0, 0, 1, 0});
+    PrintCommand();
+    EXPECT_EQ(ReadText(listing.string()), "the last listing");
+    EXPECT_EQ(std::distance(fs::directory_iterator(dir), fs::directory_iterator()), 1);
+  }
+  fs::remove_all(dir);
+  platform.QueuePrint(ui::PrintDialogRequest{0, 0, 1, 0});
+  PrintCommand();
+  EXPECT_FALSE(fs::exists(dir));
   EXPECT_EQ(platform.CountOf("page"), 0);
   EXPECT_EQ(platform.CountOf("msgbox"), 0);
 }
