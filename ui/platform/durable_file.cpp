@@ -62,7 +62,9 @@ std::string FolderOf(const std::string& path) {
   return slash == 0 ? "/" : path.substr(0, slash);
 }
 
-int SyncFolder(const std::string& path) {
+}  // namespace
+
+int SyncFolderOf(const std::string& path) {
   const int fd = ::open(FolderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (fd < 0) return errno;
   int err = 0;
@@ -71,8 +73,6 @@ int SyncFolder(const std::string& path) {
   ::close(fd);
   return err;
 }
-
-}  // namespace
 
 DurableFile::~DurableFile() {
   Abandon();
@@ -169,7 +169,7 @@ int DurableFile::Commit() {
   // The new file is in place; a folder that cannot be flushed is still reported, since
   // the rename might not survive a power cut.
   if (const int e = InjectedAt(DurableStep::SyncFolder)) return e;
-  return SyncFolder(path_);
+  return SyncFolderOf(path_);
 }
 
 void DurableFile::Abandon() {

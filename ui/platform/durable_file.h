@@ -54,6 +54,11 @@ int WriteFileDurably(const std::string& path, const void* data, size_t size);
 // Copies the file `from` as the whole file `to` through a DurableFile; an errno value.
 int CopyFileDurably(const std::string& from, const std::string& to);
 
+// Flushes the folder that holds `path`, so that a file just put there by a rename or a link
+// survives a power cut; an errno value. For files that another writer made whole (the
+// Qt settings file, written through a flushed temporary file and linked into place).
+int SyncFolderOf(const std::string& path);
+
 // Test seams, for the next durable writes of this process:
 //  - the next `times` writes fail with `errnoValue` once `afterBytes` bytes of the file
 //    have been written, like a device that fills up;

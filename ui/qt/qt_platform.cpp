@@ -15,6 +15,7 @@
 #include <cstdlib>
 
 #include "ui/model/form.h"
+#include "ui/platform/durable_file.h"
 #include "ui/qt/cp1252.h"
 #include "ui/qt/form_windows.h"
 #include "ui/qt/help_window.h"
@@ -333,6 +334,10 @@ void QtPlatform::SaveSetting(const std::string& app, const std::string& section,
   QSettings s(QStringLiteral("KQEdit"), ToQt(app));
   s.beginGroup(ToQt(section));
   s.setValue(ToQt(key), ToQt(value));
+  // Qt writes the file whole through a flushed temporary file; the folder is flushed here,
+  // so that the new file is the one found after a power cut.
+  s.sync();
+  if (s.status() == QSettings::NoError) (void)SyncFolderOf(FromQt(s.fileName()));
 }
 
 bool QtPlatform::PrintDialog(PrintDialogRequest& request) {
