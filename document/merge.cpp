@@ -11,6 +11,8 @@
 #include <cstddef>
 #include <cstring>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "document/byte_reader.h"
@@ -51,33 +53,76 @@ std::string DataTypeName(int32_t type) {
   return Row(DataTypeNames[type]);
 }
 
-// Which of the document's variables have a name, worked out once per command: the
-// checks compare every pair of the two tables.
-struct NamedVariables {
-  bool named[kMaxVariables];
+// The document's named variables by name, worked out once per command: the checks compare
+// every variable of the file with every one of the document, which a lookup makes linear.
+class NamedVariables {
+ public:
   NamedVariables() {
-    for (int i = 0; i < kMaxVariables; ++i) named[i] = Named(PrgHdr.Variable[i]);
+    for (int i = 0; i < kMaxVariables; ++i) {
+      if (Named(PrgHdr.Variable[i])) Add(i);
+    }
+  }
+  bool named(int i) const { return named_[i]; }
+  // The first of the document's entries with the name of `v`, or -1.
+  int Find(const VarRef& v) const {
+    const auto it = byName_.find(KeyOf(v));
+    return it == byName_.end() ? -1 : it->second.first;
+  }
+  // The first of the document's entries with the name of `v` but another type, or -1.
+  int OtherType(const VarRef& v) const {
+    const auto it = byName_.find(KeyOf(v));
+    if (it == byName_.end()) return -1;
+    const Entry& e = it->second;
+    if (PrgHdr.Variable[e.first].VarRefType != v.VarRefType) return e.first;
+    return e.mixedAt;
+  }
+  // Entry i has just been given a name.
+  void Add(int i) {
+    named_[i] = true;
+    const VarRef& d = PrgHdr.Variable[i];
+    auto [it, added] = byName_.try_emplace(KeyOf(d), Entry{i, -1});
+    Entry& e = it->second;
+    if (!added && e.mixedAt < 0 && PrgHdr.Variable[e.first].VarRefType != d.VarRefType) {
+      e.mixedAt = i;
+    }
+  }
+
+ private:
+  struct Entry {
+    int first;    // the first entry of the name
+    int mixedAt;  // the first later entry of the name with another type, or -1
+  };
+  static std::string_view KeyOf(const VarRef& v) { return {v.VarRefName, sizeof v.VarRefName}; }
+  bool named_[kMaxVariables] = {};
+  std::unordered_map<std::string_view, Entry> byName_;
+};
+
+// Which of the document's paths and tables have a name, worked out once per command.
+struct NamedEntries {
+  bool path[kPathRows][kPathTypes];
+  bool pathText[kPathRows][kPathTypes];
+  bool table[kMaxTables];
+  NamedEntries() {
+    for (int q = 0; q < kPathRows; ++q) {
+      for (int t = 0; t < kPathTypes; ++t) {
+        path[q][t] = Named(PrgHdr.Path[q][t].PathName);
+        pathText[q][t] = Named(PrgHdr.Path[q][t].PathText);
+      }
+    }
+    for (int i = 0; i < kMaxTables; ++i) table[i] = Named(PrgHdr.Table[i].TableName);
   }
 };
 
 // The document's entry with the same name, or -1.
-int FindVariable(const NamedVariables& doc, const VarRef& v) {
-  for (int i = 0; i < kMaxVariables; ++i) {
-    if (doc.named[i] && SameField(PrgHdr.Variable[i].VarRefName, v.VarRefName)) return i;
-  }
-  return -1;
-}
-int FindPath(int type, const PathEntry& e) {
+int FindPath(const NamedEntries& doc, int type, const PathEntry& e) {
   for (int r = 0; r < kPathRows; ++r) {
-    const PathEntry& d = PrgHdr.Path[r][type];
-    if (Named(d.PathName) && SameField(d.PathName, e.PathName)) return r;
+    if (doc.path[r][type] && SameField(PrgHdr.Path[r][type].PathName, e.PathName)) return r;
   }
   return -1;
 }
-int FindTable(const TableEntry& t) {
+int FindTable(const NamedEntries& doc, const TableEntry& t) {
   for (int i = 0; i < kMaxTables; ++i) {
-    const TableEntry& d = PrgHdr.Table[i];
-    if (Named(d.TableName) && SameField(d.TableName, t.TableName)) return i;
+    if (doc.table[i] && SameField(PrgHdr.Table[i].TableName, t.TableName)) return i;
   }
   return -1;
 }
@@ -87,21 +132,19 @@ bool DeclarationsMerge() {
   const NamedVariables doc;
   for (const VarRef& c : CopyHdr.Variable) {
     if (!Named(c)) continue;
-    for (int i = 0; i < kMaxVariables; ++i) {
-      const VarRef& d = PrgHdr.Variable[i];
-      if (doc.named[i] && SameField(d.VarRefName, c.VarRefName) && d.VarRefType != c.VarRefType) {
-        Refuse("Variable " + Text(c.VarRefName) + " is defined as " + DataTypeName(d.VarRefType) +
-                   " and " + DataTypeName(c.VarRefType) + " respectively.",
-               "Variable Error");
-        return false;
-      }
+    if (const int i = doc.OtherType(c); i >= 0) {
+      Refuse("Variable " + Text(c.VarRefName) + " is defined as " +
+                 DataTypeName(PrgHdr.Variable[i].VarRefType) + " and " +
+                 DataTypeName(c.VarRefType) + " respectively.",
+             "Variable Error");
+      return false;
     }
   }
 
   int variables = 0;
-  for (bool named : doc.named) variables += named ? 1 : 0;
+  for (int i = 0; i < kMaxVariables; ++i) variables += doc.named(i) ? 1 : 0;
   for (const VarRef& c : CopyHdr.Variable) {
-    variables += Named(c) && FindVariable(doc, c) < 0 ? 1 : 0;
+    variables += Named(c) && doc.Find(c) < 0 ? 1 : 0;
   }
   if (variables > kMaxVariables) {
     Refuse("Exceeded maximum number of allowed variables, which are" + Str(int64_t{kMaxVariables}) +
@@ -110,13 +153,14 @@ bool DeclarationsMerge() {
     return false;
   }
 
+  const NamedEntries named;
   for (int t = 0; t < kPathTypes; ++t) {
     for (int r = 0; r < kPathRows; ++r) {
       const PathEntry& c = CopyHdr.Path[r][t];
       if (!Named(c.PathText)) continue;
       for (int q = 0; q < kPathRows; ++q) {
         const PathEntry& d = PrgHdr.Path[q][t];
-        if (Named(d.PathText) && SameField(d.PathName, c.PathName) &&
+        if (named.pathText[q][t] && SameField(d.PathName, c.PathName) &&
             !SameField(d.PathText, c.PathText)) {
           Refuse("Path variable " + Text(c.PathName) + " is defined as " + Text(d.PathText) +
                      " and " + Text(c.PathText) + " respectively.",
@@ -129,10 +173,10 @@ bool DeclarationsMerge() {
 
   for (int t = 0; t < kPathTypes; ++t) {
     int paths = 0;
-    for (int r = 0; r < kPathRows; ++r) paths += Named(PrgHdr.Path[r][t].PathName) ? 1 : 0;
+    for (int r = 0; r < kPathRows; ++r) paths += named.path[r][t] ? 1 : 0;
     for (int r = 0; r < kPathRows; ++r) {
       const PathEntry& c = CopyHdr.Path[r][t];
-      paths += Named(c.PathName) && FindPath(t, c) < 0 ? 1 : 0;
+      paths += Named(c.PathName) && FindPath(named, t, c) < 0 ? 1 : 0;
     }
     if (paths > kPathRows) {
       Refuse("Exceeded maximum number of allowed path variables, which are" +
@@ -144,7 +188,7 @@ bool DeclarationsMerge() {
 
   // A table that both declare is refused, even when both hold the same columns.
   for (const TableEntry& c : CopyHdr.Table) {
-    if (Named(c.TableName) && FindTable(c) >= 0) {
+    if (Named(c.TableName) && FindTable(named, c) >= 0) {
       Refuse("Database table " + Text(c.TableName) + " have different variables defined in field" +
                  Str(int64_t{1}),
              "Database Table Error");
@@ -153,8 +197,8 @@ bool DeclarationsMerge() {
   }
 
   int tables = 0;
-  for (const TableEntry& d : PrgHdr.Table) tables += Named(d.TableName) ? 1 : 0;
-  for (const TableEntry& c : CopyHdr.Table) tables += Named(c.TableName) && FindTable(c) < 0;
+  for (const bool t : named.table) tables += t ? 1 : 0;
+  for (const TableEntry& c : CopyHdr.Table) tables += Named(c.TableName) && FindTable(named, c) < 0;
   if (tables > kMaxTables) {
     Refuse("Exceeded maximum number of allowed database tables, which are" +
                Str(int64_t{kMaxTables}) + ".",
@@ -169,19 +213,21 @@ void MergeDeclarations() {
   NamedVariables doc;
   int free = 0;
   for (const VarRef& c : CopyHdr.Variable) {
-    if (!Named(c) || FindVariable(doc, c) >= 0) continue;
-    while (free < kMaxVariables && doc.named[free]) ++free;
+    if (!Named(c) || doc.Find(c) >= 0) continue;
+    while (free < kMaxVariables && doc.named(free)) ++free;
     if (free == kMaxVariables) break;  // cannot happen: the count was checked
     PrgHdr.Variable[free] = c;
-    doc.named[free] = true;
+    doc.Add(free);
   }
+  NamedEntries named;
   for (int t = 0; t < kPathTypes; ++t) {
     for (int r = 0; r < kPathRows; ++r) {
       const PathEntry& c = CopyHdr.Path[r][t];
-      if (!Named(c.PathName) || FindPath(t, c) >= 0) continue;
+      if (!Named(c.PathName) || FindPath(named, t, c) >= 0) continue;
       for (int q = 0; q < kPathRows; ++q) {
-        if (!Named(PrgHdr.Path[q][t].PathName)) {
+        if (!named.path[q][t]) {
           PrgHdr.Path[q][t] = c;
+          named.path[q][t] = true;
           break;
         }
       }
@@ -189,9 +235,10 @@ void MergeDeclarations() {
   }
   for (const TableEntry& c : CopyHdr.Table) {
     if (!Named(c.TableName)) continue;
-    for (TableEntry& d : PrgHdr.Table) {
-      if (!Named(d.TableName)) {
-        d = c;
+    for (int i = 0; i < kMaxTables; ++i) {
+      if (!named.table[i]) {
+        PrgHdr.Table[i] = c;
+        named.table[i] = true;
         break;
       }
     }
