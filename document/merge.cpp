@@ -21,6 +21,7 @@
 #include "document/field_empty.h"
 #include "document/file.h"
 #include "document/file_common.h"
+#include "document/function_table.h"
 #include "document/functions.h"
 #include "document/kqx_format.h"
 #include "document/state.h"
@@ -291,29 +292,6 @@ std::vector<int> RangeLines(int firstLine, int lastLine) {
   return lines;
 }
 
-// The functions whose record begins with the name of the table they work on.
-bool IsTableFunction(int funcNo) {
-  switch (ToFn(funcNo)) {
-    case Fn::ConnectTable:
-    case Fn::DisconnectTable:
-    case Fn::AddRecord:
-    case Fn::DeleteRecord:
-    case Fn::GetFirstRecord:
-    case Fn::SelectRecords:
-    case Fn::InsertRecord:
-    case Fn::GetLastRecord:
-    case Fn::GetNextRecord:
-    case Fn::GetPrevRecord:
-    case Fn::UpdateRecord:
-    case Fn::GetRecordNo:
-    case Fn::GetNoOfRec:
-    case Fn::EmptyTable:
-      return true;
-    default:
-      return false;
-  }
-}
-
 }  // namespace
 
 bool VarUsedInLines(const VarRef& v, int firstLine, int lastLine) {
@@ -378,14 +356,9 @@ void StagePartPaths(const std::vector<int>& lines) {
 
 bool TableUsedInLines(std::string_view name16, const std::vector<int>& lines) {
   for (int i : lines) {
-    const int funcNo = LineTable[i].LineFuncNo;
-    size_t offset = 0;  // the table functions name their table first
-    if (funcNo == static_cast<int>(Fn::Prototype)) {
-      offset = offsetof(PrototypeRec, TableName);
-    } else if (!IsTableFunction(funcNo)) {
-      continue;
-    }
-    if (std::memcmp(FuncBlock[i] + offset, name16.data(), 16) == 0) return true;
+    const FunctionInfo* info = FunctionOf(LineTable[i].LineFuncNo);
+    if (info == nullptr || info->table < 0) continue;
+    if (std::memcmp(FuncBlock[i] + info->table, name16.data(), 16) == 0) return true;
   }
   return false;
 }
