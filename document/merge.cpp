@@ -52,44 +52,78 @@ std::string DataTypeName(int32_t type) {
 }
 
 // Which of the document's variables have a name, worked out once per command: the
-// checks compare every pair of the two tables.
+// checks compare every pair of the two tables, and a blank entry is only known blank
+// after all of its bytes, so the pairs walk the named entries only.
 struct NamedVariables {
   bool named[kMaxVariables];
+  std::vector<int> indexes;  // the named entries
   NamedVariables() {
-    for (int i = 0; i < kMaxVariables; ++i) named[i] = Named(PrgHdr.Variable[i]);
+    for (int i = 0; i < kMaxVariables; ++i) {
+      named[i] = Named(PrgHdr.Variable[i]);
+      if (named[i]) indexes.push_back(i);
+    }
+  }
+  void Add(int i) {
+    named[i] = true;
+    indexes.push_back(i);
   }
 };
 
-// The document's entry with the same name, or -1.
-int FindVariable(const NamedVariables& doc, const VarRef& v) {
-  for (int i = 0; i < kMaxVariables; ++i) {
-    if (doc.named[i] && SameField(PrgHdr.Variable[i].VarRefName, v.VarRefName)) return i;
+// Which of the document's path variables and tables have a name and a path text, worked
+// out once for the checks, which change nothing.
+struct NamedDeclarations {
+  bool pathText[kPathTypes][kPathRows];
+  bool pathName[kPathTypes][kPathRows];
+  bool table[kMaxTables];
+  NamedDeclarations() {
+    for (int t = 0; t < kPathTypes; ++t) {
+      for (int r = 0; r < kPathRows; ++r) {
+        pathText[t][r] = Named(PrgHdr.Path[r][t].PathText);
+        pathName[t][r] = Named(PrgHdr.Path[r][t].PathName);
+      }
+    }
+    for (int i = 0; i < kMaxTables; ++i) table[i] = Named(PrgHdr.Table[i].TableName);
   }
-  return -1;
+};
+
+// Whether the document has an entry with the same name.
+bool HasVariable(const NamedVariables& doc, const VarRef& v) {
+  for (int i : doc.indexes) {
+    if (SameField(PrgHdr.Variable[i].VarRefName, v.VarRefName)) return true;
+  }
+  return false;
 }
-int FindPath(int type, const PathEntry& e) {
+bool HasPath(int type, const PathEntry& e) {
   for (int r = 0; r < kPathRows; ++r) {
     const PathEntry& d = PrgHdr.Path[r][type];
-    if (Named(d.PathName) && SameField(d.PathName, e.PathName)) return r;
+    if (Named(d.PathName) && SameField(d.PathName, e.PathName)) return true;
   }
-  return -1;
+  return false;
 }
-int FindTable(const TableEntry& t) {
-  for (int i = 0; i < kMaxTables; ++i) {
-    const TableEntry& d = PrgHdr.Table[i];
-    if (Named(d.TableName) && SameField(d.TableName, t.TableName)) return i;
+bool HasPath(const NamedDeclarations& doc, int type, const PathEntry& e) {
+  for (int r = 0; r < kPathRows; ++r) {
+    if (doc.pathName[type][r] && SameField(PrgHdr.Path[r][type].PathName, e.PathName)) {
+      return true;
+    }
   }
-  return -1;
+  return false;
+}
+bool HasTable(const NamedDeclarations& doc, const TableEntry& t) {
+  for (int i = 0; i < kMaxTables; ++i) {
+    if (doc.table[i] && SameField(PrgHdr.Table[i].TableName, t.TableName)) return true;
+  }
+  return false;
 }
 
 // Steps 4 to 9: every refusal of the declarations, in order. False after a box.
 bool DeclarationsMerge() {
   const NamedVariables doc;
+  const NamedDeclarations declared;
   for (const VarRef& c : CopyHdr.Variable) {
     if (!Named(c)) continue;
-    for (int i = 0; i < kMaxVariables; ++i) {
+    for (int i : doc.indexes) {
       const VarRef& d = PrgHdr.Variable[i];
-      if (doc.named[i] && SameField(d.VarRefName, c.VarRefName) && d.VarRefType != c.VarRefType) {
+      if (SameField(d.VarRefName, c.VarRefName) && d.VarRefType != c.VarRefType) {
         Refuse("Variable " + Text(c.VarRefName) + " is defined as " + DataTypeName(d.VarRefType) +
                    " and " + DataTypeName(c.VarRefType) + " respectively.",
                "Variable Error");
@@ -99,9 +133,9 @@ bool DeclarationsMerge() {
   }
 
   int variables = 0;
-  for (bool named : doc.named) variables += named ? 1 : 0;
+  variables += static_cast<int>(doc.indexes.size());
   for (const VarRef& c : CopyHdr.Variable) {
-    variables += Named(c) && FindVariable(doc, c) < 0 ? 1 : 0;
+    variables += Named(c) && !HasVariable(doc, c) ? 1 : 0;
   }
   if (variables > kMaxVariables) {
     Refuse("Exceeded maximum number of allowed variables, which are" + Str(int64_t{kMaxVariables}) +
@@ -116,7 +150,7 @@ bool DeclarationsMerge() {
       if (!Named(c.PathText)) continue;
       for (int q = 0; q < kPathRows; ++q) {
         const PathEntry& d = PrgHdr.Path[q][t];
-        if (Named(d.PathText) && SameField(d.PathName, c.PathName) &&
+        if (declared.pathText[t][q] && SameField(d.PathName, c.PathName) &&
             !SameField(d.PathText, c.PathText)) {
           Refuse("Path variable " + Text(c.PathName) + " is defined as " + Text(d.PathText) +
                      " and " + Text(c.PathText) + " respectively.",
@@ -129,10 +163,10 @@ bool DeclarationsMerge() {
 
   for (int t = 0; t < kPathTypes; ++t) {
     int paths = 0;
-    for (int r = 0; r < kPathRows; ++r) paths += Named(PrgHdr.Path[r][t].PathName) ? 1 : 0;
+    for (int r = 0; r < kPathRows; ++r) paths += declared.pathName[t][r] ? 1 : 0;
     for (int r = 0; r < kPathRows; ++r) {
       const PathEntry& c = CopyHdr.Path[r][t];
-      paths += Named(c.PathName) && FindPath(t, c) < 0 ? 1 : 0;
+      paths += Named(c.PathName) && !HasPath(declared, t, c) ? 1 : 0;
     }
     if (paths > kPathRows) {
       Refuse("Exceeded maximum number of allowed path variables, which are" +
@@ -144,7 +178,7 @@ bool DeclarationsMerge() {
 
   // A table that both declare is refused, even when both hold the same columns.
   for (const TableEntry& c : CopyHdr.Table) {
-    if (Named(c.TableName) && FindTable(c) >= 0) {
+    if (Named(c.TableName) && HasTable(declared, c)) {
       Refuse("Database table " + Text(c.TableName) + " have different variables defined in field" +
                  Str(int64_t{1}),
              "Database Table Error");
@@ -153,8 +187,10 @@ bool DeclarationsMerge() {
   }
 
   int tables = 0;
-  for (const TableEntry& d : PrgHdr.Table) tables += Named(d.TableName) ? 1 : 0;
-  for (const TableEntry& c : CopyHdr.Table) tables += Named(c.TableName) && FindTable(c) < 0;
+  for (bool named : declared.table) tables += named ? 1 : 0;
+  for (const TableEntry& c : CopyHdr.Table) {
+    tables += Named(c.TableName) && !HasTable(declared, c) ? 1 : 0;
+  }
   if (tables > kMaxTables) {
     Refuse("Exceeded maximum number of allowed database tables, which are" +
                Str(int64_t{kMaxTables}) + ".",
@@ -169,16 +205,16 @@ void MergeDeclarations() {
   NamedVariables doc;
   int free = 0;
   for (const VarRef& c : CopyHdr.Variable) {
-    if (!Named(c) || FindVariable(doc, c) >= 0) continue;
+    if (!Named(c) || HasVariable(doc, c)) continue;
     while (free < kMaxVariables && doc.named[free]) ++free;
     if (free == kMaxVariables) break;  // cannot happen: the count was checked
     PrgHdr.Variable[free] = c;
-    doc.named[free] = true;
+    doc.Add(free);
   }
   for (int t = 0; t < kPathTypes; ++t) {
     for (int r = 0; r < kPathRows; ++r) {
       const PathEntry& c = CopyHdr.Path[r][t];
-      if (!Named(c.PathName) || FindPath(t, c) >= 0) continue;
+      if (!Named(c.PathName) || HasPath(t, c)) continue;
       for (int q = 0; q < kPathRows; ++q) {
         if (!Named(PrgHdr.Path[q][t].PathName)) {
           PrgHdr.Path[q][t] = c;
