@@ -12,6 +12,7 @@
 #include "diagram/diagram.h"
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/edit_host.h"
 #include "document/functions.h"
 #include "document/state.h"
 #include "document/text.h"
@@ -23,11 +24,7 @@ namespace {
 
 using namespace kq;
 
-class Host : public ui::Form {
- public:
-  Host() : ui::Form("frmEdit", "bench"), lstEdit(*this, "lstEdit") {}
-  ui::ListBox lstEdit;
-};
+using Host = EditHost;
 
 struct Setup {
   ui::HeadlessPlatform platform;
@@ -36,7 +33,6 @@ struct Setup {
     ui::SetPlatform(&platform);
     host = std::make_unique<Host>();
     SetEditList(&host->lstEdit);
-    InitNameTables();
     GetFuncRecordLength();
     InitDocument();
   }

@@ -9,6 +9,7 @@
 
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/edit_host.h"
 #include "document/functions.h"
 #include "document/state.h"
 #include "document/text.h"
@@ -25,13 +26,7 @@ using namespace kq;
 
 constexpr int kLines = 9999;
 
-class Host : public ui::Form {
- public:
-  Host() : ui::Form("frmEdit", "bench"), lstEdit(*this, "lstEdit") {
-    lstEdit.SetMultiSelect(ui::ListBox::MultiSelect::Extended);
-  }
-  ui::ListBox lstEdit;
-};
+using Host = EditHost;
 
 struct Setup {
   ui::HeadlessPlatform platform;
@@ -40,7 +35,6 @@ struct Setup {
     ui::SetPlatform(&platform);
     host = std::make_unique<Host>();
     SetEditList(&host->lstEdit);
-    InitNameTables();
     GetFuncRecordLength();
     InitDocument();
   }

@@ -10,6 +10,7 @@
 
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/edit_host.h"
 #include "document/file.h"
 #include "document/state.h"
 #include "document/text.h"
@@ -21,11 +22,7 @@ namespace {
 
 constexpr int kLines = 9999;
 
-class ListHost : public ui::Form {
- public:
-  ListHost() : Form("frmEdit", "Editor") {}
-  ui::ListBox lstEdit{*this, "lstEdit"};
-};
+using ListHost = kq::EditHost;
 
 struct BenchDocument {
   ui::HeadlessPlatform platform;
@@ -36,7 +33,6 @@ struct BenchDocument {
   BenchDocument() {
     ui::SetPlatform(&platform);
     kq::SetEditList(&host.lstEdit);
-    kq::InitNameTables();
     kq::GetFuncRecordLength();
     kq::InitDocument();
     dir = (std::filesystem::temp_directory_path() / "kq-document-bench").string();

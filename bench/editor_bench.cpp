@@ -9,6 +9,7 @@
 
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/edit_host.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "editor/line_editing.h"
@@ -20,13 +21,12 @@ namespace {
 
 struct Program {
   ui::HeadlessPlatform platform;
-  ui::Form form{"frmBench", ""};
-  ui::ListBox list{form, "lstEdit"};
+  kq::EditHost host;
+  ui::ListBox& list = host.lstEdit;
   std::vector<std::string> texts;
 
   explicit Program(int lines) {
     ui::SetPlatform(&platform);
-    kq::InitNameTables();
     kq::GetFuncRecordLength();
     kq::InitDocument();
     list.SetMultiSelect(ui::ListBox::MultiSelect::Extended);

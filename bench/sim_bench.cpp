@@ -34,7 +34,6 @@ void Var(VarRef& v, int32_t type, const char* name) {
 
 // 9,999 compiled lines: counting, comparing, converting and a remark, then back to line 0.
 void BuildApplication() {
-  InitNameTables();
   GetFuncRecordLength();
   InitDocument();
   Var(PrgHdr.Variable[0], kVarLong, "N");

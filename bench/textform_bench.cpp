@@ -8,6 +8,7 @@
 
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/edit_host.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "textform/text_form.h"
@@ -21,11 +22,7 @@ using namespace kq;
 
 constexpr int kLines = 9999;
 
-class Host : public ui::Form {
- public:
-  Host() : ui::Form("frmEdit", "bench"), lstEdit(*this, "lstEdit") {}
-  ui::ListBox lstEdit;
-};
+using Host = EditHost;
 
 struct Setup {
   ui::HeadlessPlatform platform;
@@ -33,7 +30,6 @@ struct Setup {
   Setup() {
     ui::SetPlatform(&platform);
     SetEditList(&host->lstEdit);
-    InitNameTables();
     GetFuncRecordLength();
     BuildProgram();
   }

@@ -11,6 +11,7 @@
 
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/edit_host.h"
 #include "document/file.h"
 #include "document/merge.h"
 #include "document/state.h"
@@ -42,14 +43,13 @@ double ResidentMiB() {
 
 struct Program {
   ui::HeadlessPlatform platform;
-  ui::Form form{"frmBench", ""};
-  ui::ListBox list{form, "lstEdit"};
+  kq::EditHost host;
+  ui::ListBox& list = host.lstEdit;
   std::vector<int> live;
   std::mt19937 rng{17};
 
   Program() {
     ui::SetPlatform(&platform);
-    kq::InitNameTables();
     kq::GetFuncRecordLength();
     kq::InitDocument();
     kq::SetEditList(&list);

@@ -37,7 +37,7 @@ struct LabelField {
 };
 
 // The label fields of every function, in the order compile resolves them. Keywords come
-// from the name tables, so build it after InitNameTables.
+// from the name tables.
 class LabelFieldTable {
  public:
   LabelFieldTable();

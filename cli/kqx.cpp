@@ -3,9 +3,9 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/commands.h"
-#include "cli/list_form.h"
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/edit_host.h"
 #include "document/run_scope.h"
 #include "document/state.h"
 #include "ui/headless/headless_platform.h"
@@ -20,11 +20,11 @@ namespace {
 
 // Installs the platform and the hidden list for the life of one run, and takes them away
 // again, so that runs in one process (the tests) do not see each other.
-struct RunState {
+struct KqxRun {
   ui::HeadlessPlatform platform;
-  frmHiddenList list;
+  kq::EditHost list{"Zelvox Voice Response Editor", ui::ListBox::MultiSelect::None};
   kq::RunScope run{{&platform, &list.lstEdit}};
-  explicit RunState(std::ostream& out) { platform.SetEventStream(&out); }
+  explicit KqxRun(std::ostream& out) { platform.SetEventStream(&out); }
 };
 
 }  // namespace
@@ -34,7 +34,7 @@ const char* Version() {
 }
 
 int RunKqx(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-  RunState state(out);
+  KqxRun state(out);
   Session session{out, err, state.platform};
 
   CLI::App app("kqx: inspect, compile, list, convert and script voice-response applications",

@@ -29,7 +29,8 @@ set(KQ_RULE_editor ${KQ_BELOW_EDITOR})
 set(KQ_RULE_check ${KQ_BELOW_EDITOR} editor ui/headless)
 set(KQ_RULE_diagram ${KQ_CORE} check)
 set(KQ_RULE_check/forms ${KQ_BELOW_EDITOR} editor ui/headless check diagram)
-set(KQ_RULE_cli ${KQ_BELOW_TOOLS})
+# kqx links the checks and the diagram, not their windows.
+set(KQ_RULE_cli ${KQ_BELOW_EDITOR} editor ui/headless check diagram)
 set(KQ_RULE_app ${KQ_BELOW_TOOLS} ui/qt)
 set(KQ_UNRESTRICTED tests bench fuzz)
 

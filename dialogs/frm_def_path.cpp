@@ -84,14 +84,13 @@ void frmDefPath::lstVariable_Click() {
 }
 
 void frmDefPath::drvPath_Change() {
-  for (int attempt = 1;; ++attempt) {
-    int error = dirPath.SetPath(ui::disk().CurrentDirectory());
-    if (error == 0) error = ui::disk().ChangeDirectory(dirPath.Path());
-    if (error == 0) return;
-    const int action = HandleDiskError("Change drive path", error);
-    if (action == kDiskRaise) ui::RunTimeError(error);
-    if (action != kDiskRetry || attempt >= kMaxRetries) return;
-  }
+  RetryDiskOperation(
+      "Change drive path",
+      [this] {
+        const int error = dirPath.SetPath(ui::disk().CurrentDirectory());
+        return error != 0 ? error : ui::disk().ChangeDirectory(dirPath.Path());
+      },
+      DiskRaise::RaiseAgain);
 }
 
 void frmDefPath::dirPath_Change() {

@@ -3,6 +3,7 @@
 #include <cerrno>
 
 #include "ui/platform/platform.h"
+#include "ui/platform/run_time_error.h"
 
 namespace kq {
 
@@ -23,11 +24,14 @@ int OkOnly(const std::string& text, const std::string& title) {
 
 }  // namespace
 
-int RetryDiskOperation(const std::string& title, const std::function<int()>& attempt) {
+int RetryDiskOperation(const std::string& title, const std::function<int()>& attempt,
+                       DiskRaise onRaise) {
   for (int tries = 1;; ++tries) {
     const int err = attempt();
     if (err == 0) return 0;
-    if (HandleDiskError(title, err) != kDiskRetry || tries >= kMaxRetries) return err;
+    const int action = HandleDiskError(title, err);
+    if (action == kDiskRaise && onRaise == DiskRaise::RaiseAgain) ui::RunTimeError(err);
+    if (action != kDiskRetry || tries >= kMaxRetries) return err;
   }
 }
 

@@ -29,10 +29,16 @@ int HandleDiskError(const std::string& title, int errorNumber);
 // answering Retry by itself cannot hold the program forever.
 inline constexpr int kMaxRetries = 100;
 
+// What RetryDiskOperation does when HandleDiskError answers kDiskRaise: give the error
+// back to the caller, or raise it again (with no handler above, the run-time error ends
+// the program).
+enum class DiskRaise { Return, RaiseAgain };
+
 // Runs `attempt` (0, or the run-time error number of its failure) until it succeeds or
 // HandleDiskError under the title answers anything but Retry, at most kMaxRetries times.
 // 0 when it succeeded, otherwise the last error number.
-int RetryDiskOperation(const std::string& title, const std::function<int()>& attempt);
+int RetryDiskOperation(const std::string& title, const std::function<int()>& attempt,
+                       DiskRaise onRaise = DiskRaise::Return);
 
 // The system's error number for an errno value: 61 disk full, 68 device unavailable,
 // 70 permission denied, 71 not ready, 76 path not found; any other value is a file

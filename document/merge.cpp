@@ -11,8 +11,6 @@
 #include <cstddef>
 #include <cstring>
 #include <string>
-#include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "document/byte_reader.h"
@@ -54,98 +52,91 @@ std::string DataTypeName(int32_t type) {
   return Row(DataTypeNames[type]);
 }
 
-// The document's named variables by name, worked out once per command: the checks compare
-// every variable of the file with every one of the document, which a lookup makes linear.
-class NamedVariables {
- public:
+// Which of the document's variables have a name, worked out once per command: the
+// checks compare every pair of the two tables, and a blank entry is only known blank
+// after all of its bytes, so the pairs walk the named entries only.
+struct NamedVariables {
+  bool named[kMaxVariables];
+  std::vector<int> indexes;  // the named entries
   NamedVariables() {
     for (int i = 0; i < kMaxVariables; ++i) {
-      if (Named(PrgHdr.Variable[i])) Add(i);
+      named[i] = Named(PrgHdr.Variable[i]);
+      if (named[i]) indexes.push_back(i);
     }
   }
-  bool named(int i) const { return named_[i]; }
-  // The first of the document's entries with the name of `v`, or -1.
-  int Find(const VarRef& v) const {
-    const auto it = byName_.find(KeyOf(v));
-    return it == byName_.end() ? -1 : it->second.first;
-  }
-  // The first of the document's entries with the name of `v` but another type, or -1.
-  int OtherType(const VarRef& v) const {
-    const auto it = byName_.find(KeyOf(v));
-    if (it == byName_.end()) return -1;
-    const Entry& e = it->second;
-    if (PrgHdr.Variable[e.first].VarRefType != v.VarRefType) return e.first;
-    return e.mixedAt;
-  }
-  // Entry i has just been given a name.
   void Add(int i) {
-    named_[i] = true;
-    const VarRef& d = PrgHdr.Variable[i];
-    auto [it, added] = byName_.try_emplace(KeyOf(d), Entry{i, -1});
-    Entry& e = it->second;
-    if (!added && e.mixedAt < 0 && PrgHdr.Variable[e.first].VarRefType != d.VarRefType) {
-      e.mixedAt = i;
-    }
+    named[i] = true;
+    indexes.push_back(i);
   }
-
- private:
-  struct Entry {
-    int first;    // the first entry of the name
-    int mixedAt;  // the first later entry of the name with another type, or -1
-  };
-  static std::string_view KeyOf(const VarRef& v) { return {v.VarRefName, sizeof v.VarRefName}; }
-  bool named_[kMaxVariables] = {};
-  std::unordered_map<std::string_view, Entry> byName_;
 };
 
-// Which of the document's paths and tables have a name, worked out once per command.
-struct NamedEntries {
-  bool path[kPathRows][kPathTypes];
-  bool pathText[kPathRows][kPathTypes];
+// Which of the document's path variables and tables have a name and a path text, worked
+// out once for the checks, which change nothing.
+struct NamedDeclarations {
+  bool pathText[kPathTypes][kPathRows];
+  bool pathName[kPathTypes][kPathRows];
   bool table[kMaxTables];
-  NamedEntries() {
-    for (int q = 0; q < kPathRows; ++q) {
-      for (int t = 0; t < kPathTypes; ++t) {
-        path[q][t] = Named(PrgHdr.Path[q][t].PathName);
-        pathText[q][t] = Named(PrgHdr.Path[q][t].PathText);
+  NamedDeclarations() {
+    for (int t = 0; t < kPathTypes; ++t) {
+      for (int r = 0; r < kPathRows; ++r) {
+        pathText[t][r] = Named(PrgHdr.Path[r][t].PathText);
+        pathName[t][r] = Named(PrgHdr.Path[r][t].PathName);
       }
     }
     for (int i = 0; i < kMaxTables; ++i) table[i] = Named(PrgHdr.Table[i].TableName);
   }
 };
 
-// The document's entry with the same name, or -1.
-int FindPath(const NamedEntries& doc, int type, const PathEntry& e) {
-  for (int r = 0; r < kPathRows; ++r) {
-    if (doc.path[r][type] && SameField(PrgHdr.Path[r][type].PathName, e.PathName)) return r;
+// Whether the document has an entry with the same name.
+bool HasVariable(const NamedVariables& doc, const VarRef& v) {
+  for (int i : doc.indexes) {
+    if (SameField(PrgHdr.Variable[i].VarRefName, v.VarRefName)) return true;
   }
-  return -1;
+  return false;
 }
-int FindTable(const NamedEntries& doc, const TableEntry& t) {
-  for (int i = 0; i < kMaxTables; ++i) {
-    if (doc.table[i] && SameField(PrgHdr.Table[i].TableName, t.TableName)) return i;
+bool HasPath(int type, const PathEntry& e) {
+  for (int r = 0; r < kPathRows; ++r) {
+    const PathEntry& d = PrgHdr.Path[r][type];
+    if (Named(d.PathName) && SameField(d.PathName, e.PathName)) return true;
   }
-  return -1;
+  return false;
+}
+bool HasPath(const NamedDeclarations& doc, int type, const PathEntry& e) {
+  for (int r = 0; r < kPathRows; ++r) {
+    if (doc.pathName[type][r] && SameField(PrgHdr.Path[r][type].PathName, e.PathName)) {
+      return true;
+    }
+  }
+  return false;
+}
+bool HasTable(const NamedDeclarations& doc, const TableEntry& t) {
+  for (int i = 0; i < kMaxTables; ++i) {
+    if (doc.table[i] && SameField(PrgHdr.Table[i].TableName, t.TableName)) return true;
+  }
+  return false;
 }
 
 // Steps 4 to 9: every refusal of the declarations, in order. False after a box.
 bool DeclarationsMerge() {
   const NamedVariables doc;
+  const NamedDeclarations declared;
   for (const VarRef& c : CopyHdr.Variable) {
     if (!Named(c)) continue;
-    if (const int i = doc.OtherType(c); i >= 0) {
-      Refuse("Variable " + Text(c.VarRefName) + " is defined as " +
-                 DataTypeName(PrgHdr.Variable[i].VarRefType) + " and " +
-                 DataTypeName(c.VarRefType) + " respectively.",
-             "Variable Error");
-      return false;
+    for (int i : doc.indexes) {
+      const VarRef& d = PrgHdr.Variable[i];
+      if (SameField(d.VarRefName, c.VarRefName) && d.VarRefType != c.VarRefType) {
+        Refuse("Variable " + Text(c.VarRefName) + " is defined as " + DataTypeName(d.VarRefType) +
+                   " and " + DataTypeName(c.VarRefType) + " respectively.",
+               "Variable Error");
+        return false;
+      }
     }
   }
 
   int variables = 0;
-  for (int i = 0; i < kMaxVariables; ++i) variables += doc.named(i) ? 1 : 0;
+  variables += static_cast<int>(doc.indexes.size());
   for (const VarRef& c : CopyHdr.Variable) {
-    variables += Named(c) && doc.Find(c) < 0 ? 1 : 0;
+    variables += Named(c) && !HasVariable(doc, c) ? 1 : 0;
   }
   if (variables > kMaxVariables) {
     Refuse("Exceeded maximum number of allowed variables, which are" + Str(int64_t{kMaxVariables}) +
@@ -154,14 +145,13 @@ bool DeclarationsMerge() {
     return false;
   }
 
-  const NamedEntries named;
   for (int t = 0; t < kPathTypes; ++t) {
     for (int r = 0; r < kPathRows; ++r) {
       const PathEntry& c = CopyHdr.Path[r][t];
       if (!Named(c.PathText)) continue;
       for (int q = 0; q < kPathRows; ++q) {
         const PathEntry& d = PrgHdr.Path[q][t];
-        if (named.pathText[q][t] && SameField(d.PathName, c.PathName) &&
+        if (declared.pathText[t][q] && SameField(d.PathName, c.PathName) &&
             !SameField(d.PathText, c.PathText)) {
           Refuse("Path variable " + Text(c.PathName) + " is defined as " + Text(d.PathText) +
                      " and " + Text(c.PathText) + " respectively.",
@@ -174,10 +164,10 @@ bool DeclarationsMerge() {
 
   for (int t = 0; t < kPathTypes; ++t) {
     int paths = 0;
-    for (int r = 0; r < kPathRows; ++r) paths += named.path[r][t] ? 1 : 0;
+    for (int r = 0; r < kPathRows; ++r) paths += declared.pathName[t][r] ? 1 : 0;
     for (int r = 0; r < kPathRows; ++r) {
       const PathEntry& c = CopyHdr.Path[r][t];
-      paths += Named(c.PathName) && FindPath(named, t, c) < 0 ? 1 : 0;
+      paths += Named(c.PathName) && !HasPath(declared, t, c) ? 1 : 0;
     }
     if (paths > kPathRows) {
       Refuse("Exceeded maximum number of allowed path variables, which are" +
@@ -189,7 +179,7 @@ bool DeclarationsMerge() {
 
   // A table that both declare is refused, even when both hold the same columns.
   for (const TableEntry& c : CopyHdr.Table) {
-    if (Named(c.TableName) && FindTable(named, c) >= 0) {
+    if (Named(c.TableName) && HasTable(declared, c)) {
       Refuse("Database table " + Text(c.TableName) + " have different variables defined in field" +
                  Str(int64_t{1}),
              "Database Table Error");
@@ -198,8 +188,10 @@ bool DeclarationsMerge() {
   }
 
   int tables = 0;
-  for (const bool t : named.table) tables += t ? 1 : 0;
-  for (const TableEntry& c : CopyHdr.Table) tables += Named(c.TableName) && FindTable(named, c) < 0;
+  for (bool named : declared.table) tables += named ? 1 : 0;
+  for (const TableEntry& c : CopyHdr.Table) {
+    tables += Named(c.TableName) && !HasTable(declared, c) ? 1 : 0;
+  }
   if (tables > kMaxTables) {
     Refuse("Exceeded maximum number of allowed database tables, which are" +
                Str(int64_t{kMaxTables}) + ".",
@@ -214,21 +206,19 @@ void MergeDeclarations() {
   NamedVariables doc;
   int free = 0;
   for (const VarRef& c : CopyHdr.Variable) {
-    if (!Named(c) || doc.Find(c) >= 0) continue;
-    while (free < kMaxVariables && doc.named(free)) ++free;
+    if (!Named(c) || HasVariable(doc, c)) continue;
+    while (free < kMaxVariables && doc.named[free]) ++free;
     if (free == kMaxVariables) break;  // cannot happen: the count was checked
     PrgHdr.Variable[free] = c;
     doc.Add(free);
   }
-  NamedEntries named;
   for (int t = 0; t < kPathTypes; ++t) {
     for (int r = 0; r < kPathRows; ++r) {
       const PathEntry& c = CopyHdr.Path[r][t];
-      if (!Named(c.PathName) || FindPath(named, t, c) >= 0) continue;
+      if (!Named(c.PathName) || HasPath(t, c)) continue;
       for (int q = 0; q < kPathRows; ++q) {
-        if (!named.path[q][t]) {
+        if (!Named(PrgHdr.Path[q][t].PathName)) {
           PrgHdr.Path[q][t] = c;
-          named.path[q][t] = true;
           break;
         }
       }
@@ -236,10 +226,9 @@ void MergeDeclarations() {
   }
   for (const TableEntry& c : CopyHdr.Table) {
     if (!Named(c.TableName)) continue;
-    for (int i = 0; i < kMaxTables; ++i) {
-      if (!named.table[i]) {
-        PrgHdr.Table[i] = c;
-        named.table[i] = true;
+    for (TableEntry& d : PrgHdr.Table) {
+      if (!Named(d.TableName)) {
+        d = c;
         break;
       }
     }

@@ -1,39 +1,30 @@
-// The run's installed state in one place: the platform, the list of DisplayLines, the main
-// window and the shell hooks that the document and the dialogs reach through globals. A
-// RunScope installs a set of them for its lifetime over a new document, and puts back what
-// was installed before when it ends, so that kqx commands, tests and fuzz inputs in one
-// process never leave their list or platform behind for the next one (scopes nest).
+// The scoped guard of the run's state (state.h): a RunScope installs a run (its platform,
+// list of DisplayLines, main window, empty shell hooks and a new document) for its
+// lifetime, and when it ends puts back what it replaced, so that kqx commands, tests and
+// fuzz inputs in one process never leave their document, list or platform behind for the
+// next one. Scopes nest.
 #pragma once
 
 #include "document/state.h"
 
-namespace ui {
-class Platform;
-}  // namespace ui
-
 namespace kq {
-
-struct RunParts {
-  ui::Platform* platform = nullptr;
-  ui::ListBox* editList = nullptr;
-  ui::Form* mainWindow = nullptr;  // null: dialogs centre on the screen
-};
 
 // What is installed now; a part not installed is null.
 RunParts InstalledParts();
 
 class RunScope {
  public:
-  // Installs the parts and empty shell hooks, fills the name tables and the record
-  // lengths, and starts a new document (the hand-over fields cleared).
+  // Installs the parts and empty shell hooks, and starts a new document (the hand-over
+  // flags cleared).
   explicit RunScope(const RunParts& parts);
   ~RunScope();
   RunScope(const RunScope&) = delete;
   RunScope& operator=(const RunScope&) = delete;
 
  private:
-  RunParts previous_;
+  RunParts previousParts_;
   ShellHooks previousShell_;
+  int depth_;  // the scopes open around this one; they end in the reverse order
 };
 
 }  // namespace kq

@@ -221,7 +221,6 @@ void FrmEdit::Form_Load() {
   for (auto& item : mnuEditItem) item.SetEnabled(false);
   LoadSpeechFormat();
   InitDocument();
-  InitNameTables();
   GetFuncRecordLength();
   helpFile_ = WithSeparator(ui::platform().DataDirectory()) + "KQEdit.chm";
   ShowAllFunctions = true;

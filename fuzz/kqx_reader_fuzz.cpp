@@ -8,34 +8,20 @@
 
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/edit_host.h"
 #include "document/file.h"
 #include "document/run_scope.h"
 #include "document/state.h"
 #include "ui/headless/headless_platform.h"
-#include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 
 namespace {
 
-class ListHost : public ui::Form {
- public:
-  ListHost() : Form("frmEdit", "Editor") {}
-  ui::ListBox lstEdit{*this, "lstEdit"};
-};
-
+// The platform and the hidden list live as long as the process; each input gets a run of
+// its own (RunScope), so that nothing one input leaves behind reaches the next.
 struct Harness {
   ui::HeadlessPlatform platform;
-  ListHost host;
-  kq::RunScope run{{&platform, &host.lstEdit}};
-  void Fresh() {
-    platform.ClearEvents();
-    kq::InitDocument();
-    host.lstEdit.Clear();
-    host.lstEdit.AddItem("0000\t\tRemark\t");
-    kq::LineTable[0].LineFuncNo = 13;
-    kq::InitFuncParm(0, 13);
-    kq::PrgHdr.LineCount = 1;
-  }
+  kq::EditHost host{"Editor", ui::ListBox::MultiSelect::None};
 };
 
 Harness& TheHarness() {
@@ -43,18 +29,30 @@ Harness& TheHarness() {
   return h;
 }
 
+// One Remark line in the new document.
+void OneRemarkLine(Harness& h) {
+  h.platform.ClearEvents();
+  h.host.lstEdit.Clear();
+  h.host.lstEdit.AddItem("0000\t\tRemark\t");
+  kq::LineTable[0].LineFuncNo = 13;
+  kq::InitFuncParm(0, 13);
+  kq::PrgHdr.LineCount = 1;
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   Harness& h = TheHarness();
+  const kq::RunScope run{{&h.platform, &h.host.lstEdit}};
   const std::vector<uint8_t> bytes(data, data + size);
-  h.Fresh();
+  OneRemarkLine(h);  // the scope has started a new document
   try {
     std::string title = "fuzz.kqx", name = "fuzz.kqx";
     kq::OpenFileBytes(title, name, bytes);
   } catch (const ui::ProgramEnded&) {
   }
-  h.Fresh();
+  kq::InitDocument();
+  OneRemarkLine(h);
   try {
     std::string title = "fuzz.kqx";
     kq::InsertFileBytes(title, bytes, 1);

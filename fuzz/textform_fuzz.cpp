@@ -9,25 +9,20 @@
 #include <string>
 #include <string_view>
 
+#include "document/edit_host.h"
 #include "document/run_scope.h"
 #include "textform/text_form.h"
 #include "ui/headless/headless_platform.h"
-#include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 #include "ui/platform/platform.h"
 
 namespace {
 
-class ListHost : public ui::Form {
- public:
-  ListHost() : Form("frmEdit", "Editor") {}
-  ui::ListBox lstEdit{*this, "lstEdit"};
-};
-
+// The platform and the hidden list live as long as the process; each input gets a run of
+// its own (RunScope), so that nothing one input leaves behind reaches the next.
 struct Harness {
   ui::HeadlessPlatform platform;
-  ListHost host;
-  kq::RunScope run{{&platform, &host.lstEdit}};
+  kq::EditHost host{"Editor", ui::ListBox::MultiSelect::None};
 };
 
 Harness& TheHarness() {
@@ -49,6 +44,7 @@ bool ImportAndExport(std::string_view json, std::string& text) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   Harness& h = TheHarness();
+  const kq::RunScope run{{&h.platform, &h.host.lstEdit}};
   h.platform.ClearEvents();
   h.host.lstEdit.Clear();
   const std::string_view json(reinterpret_cast<const char*>(data), size);

@@ -139,7 +139,7 @@ class DialogTest : public ::testing::Test {
   }
 
   ui::HeadlessPlatform p;
-  kq::test::EditHost window;
+  kq::EditHost window;
   std::optional<kq::RunScope> run;
 };
 

@@ -116,3 +116,45 @@ TEST_F(DiskErrorTest, RetryLoopRunsAgainOnRetryAndGivesUp) {
             }));
   EXPECT_EQ(kMaxRetries, calls);
 }
+
+// A caller with no handler of its own raises what the boxes do not take: a Cancel leaves
+// with the error, an error without a box ends the run with the run time's box; Retry
+// still runs the statement again first.
+TEST_F(DiskErrorTest, RetryLoopRaisesAgainWhatNoBoxTakes) {
+  int calls = 0;
+  p_.QueueAnswer(ui::vbRetry);
+  p_.QueueAnswer(ui::vbCancel);
+  EXPECT_EQ(kErrDiskFull, RetryDiskOperation(
+                              "Change drive path",
+                              [&] {
+                                ++calls;
+                                return kErrDiskFull;
+                              },
+                              DiskRaise::RaiseAgain));
+  EXPECT_EQ(2, calls);
+
+  calls = 0;
+  p_.ClearEvents();
+  p_.QueueAnswer(ui::vbRetry);
+  EXPECT_THROW(
+      RetryDiskOperation(
+          "Change drive path", [&] { return ++calls == 1 ? kErrDiskNotReady : kErrFileAccess; },
+          DiskRaise::RaiseAgain),
+      ui::ProgramEnded);
+  EXPECT_EQ(2, calls);
+  const auto boxes = p_.EventsOf("msgbox");
+  ASSERT_EQ(2, boxes.size());
+  EXPECT_EQ("Change drive path", boxes[0].fields["title"].Str());
+  EXPECT_EQ("KQEdit", boxes[1].fields["title"].Str());
+  EXPECT_EQ("Run-time error '75':\r\rPath/File access error", boxes[1].fields["text"].Str());
+
+  // Without RaiseAgain the same error comes back to the caller, no box shown.
+  calls = 0;
+  p_.ClearEvents();
+  EXPECT_EQ(kErrFileAccess, RetryDiskOperation("Save", [&] {
+              ++calls;
+              return kErrFileAccess;
+            }));
+  EXPECT_EQ(1, calls);
+  EXPECT_EQ(0, p_.CountOf("msgbox"));
+}

@@ -2,10 +2,10 @@
 // document, and the end of the scope puts back what was there, nested scopes included.
 #include <gtest/gtest.h>
 
+#include "document/edit_host.h"
 #include "document/run_scope.h"
 #include "document/state.h"
 #include "ui/headless/headless_platform.h"
-#include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 #include "ui/platform/platform.h"
 
@@ -13,11 +13,7 @@ namespace {
 
 using namespace kq;
 
-class Host : public ui::Form {
- public:
-  Host() : Form("frmEdit", "Editor") {}
-  ui::ListBox lstEdit{*this, "lstEdit"};
-};
+using Host = EditHost;
 
 TEST(RunScope, InstallsANewRunAndPutsBackThePreviousOne) {
   const RunParts before = InstalledParts();
@@ -29,6 +25,11 @@ TEST(RunScope, InstallsANewRunAndPutsBackThePreviousOne) {
     ChangedFlag = true;
     FuncOk = true;
     PrgHdr.LineCount = 5;
+    LineTable[3].LineFuncNo = 18;
+    FuncBlock[3][7] = 0x5A;
+    WorkRecord.Delay.DelayMs = 77;
+    FuncName = "Voice";
+    ApplFileTitle = "outer.kqx";
     EXPECT_EQ(&outerPlatform, &ui::platform());
     EXPECT_EQ(&outerHost.lstEdit, &EditList());
     EXPECT_EQ(&outerHost, MainWindow());
@@ -42,7 +43,22 @@ TEST(RunScope, InstallsANewRunAndPutsBackThePreviousOne) {
       EXPECT_FALSE(FuncOk);
       EXPECT_EQ(0, PrgHdr.LineCount);
       EXPECT_EQ(84, RecordLength[0]);
+      // The inner run works on the same stores; all of it goes back to the outer run.
+      LineTable[3].LineFuncNo = 4;
+      FuncBlock[3][7] = 0;
+      WorkRecord.Delay.DelayMs = 1;
+      FuncName = "Delay";
+      ApplFileTitle = "inner.kqx";
+      FuncOk = true;
     }
+    EXPECT_TRUE(ChangedFlag);
+    EXPECT_TRUE(FuncOk);
+    EXPECT_EQ(5, PrgHdr.LineCount);
+    EXPECT_EQ(18, LineTable[3].LineFuncNo);
+    EXPECT_EQ(0x5A, FuncBlock[3][7]);
+    EXPECT_EQ(77, WorkRecord.Delay.DelayMs);
+    EXPECT_EQ("Voice", FuncName);
+    EXPECT_EQ("outer.kqx", ApplFileTitle);
     EXPECT_EQ(&outerPlatform, &ui::platform());
     EXPECT_EQ(&outerHost.lstEdit, &EditList());
     EXPECT_EQ(&outerHost, MainWindow());

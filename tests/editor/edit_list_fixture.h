@@ -6,14 +6,16 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <random>
 #include <vector>
 
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/edit_host.h"
+#include "document/run_scope.h"
 #include "document/state.h"
 #include "ui/headless/headless_platform.h"
-#include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 
 namespace kq::test {
@@ -23,23 +25,16 @@ class EditListFixture : public ::testing::Test {
   explicit EditListFixture(uint32_t seed) : rng_(seed) {}
 
   void SetUp() override {
-    ui::SetPlatform(&platform_);
-    InitNameTables();
-    GetFuncRecordLength();
-    InitDocument();
-    form_ = std::make_unique<ui::Form>("frmTest", "");
-    list_ = std::make_unique<ui::ListBox>(*form_, "lstEdit");
-    list_->SetMultiSelect(ui::ListBox::MultiSelect::Extended);
-    SetEditList(list_.get());
+    host_ = std::make_unique<EditHost>();
+    list_ = &host_->lstEdit;
+    run_.emplace(RunParts{&platform_, list_});
     for (int f = 0; f < kFuncCount; ++f) {
       if (IsLiveFunction(f)) live_.push_back(f);
     }
   }
   void TearDown() override {
-    SetEditList(nullptr);
-    list_.reset();
-    form_.reset();
-    ui::SetPlatform(nullptr);
+    run_.reset();
+    host_.reset();
   }
 
   // 0 to n - 1 (0 when n is not positive).
@@ -47,8 +42,9 @@ class EditListFixture : public ::testing::Test {
   int RandomLive() { return live_[static_cast<size_t>(Pick(static_cast<int>(live_.size())))]; }
 
   ui::HeadlessPlatform platform_;
-  std::unique_ptr<ui::Form> form_;
-  std::unique_ptr<ui::ListBox> list_;
+  std::unique_ptr<EditHost> host_;
+  ui::ListBox* list_ = nullptr;
+  std::optional<RunScope> run_;
   std::vector<int> live_;
   std::mt19937 rng_;
 };

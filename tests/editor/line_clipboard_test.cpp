@@ -5,20 +5,22 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "document/catalogue.h"
 #include "document/document.h"
+#include "document/edit_host.h"
 #include "document/file.h"
 #include "document/functions.h"
 #include "document/kqx_format.h"
 #include "document/merge.h"
+#include "document/run_scope.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "editor/line_clipboard.h"
 #include "ui/headless/headless_platform.h"
-#include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 
 namespace kq {
@@ -27,19 +29,13 @@ namespace {
 class LineClipboard : public ::testing::Test {
  protected:
   void SetUp() override {
-    ui::SetPlatform(&platform_);
-    InitNameTables();
-    GetFuncRecordLength();
-    InitDocument();
-    form_ = std::make_unique<ui::Form>("frmTest", "");
-    list_ = std::make_unique<ui::ListBox>(*form_, "lstEdit");
-    SetEditList(list_.get());
+    host_ = std::make_unique<EditHost>("", ui::ListBox::MultiSelect::None);
+    list_ = &host_->lstEdit;
+    run_.emplace(RunParts{&platform_, list_});
   }
   void TearDown() override {
-    SetEditList(nullptr);
-    list_.reset();
-    form_.reset();
-    ui::SetPlatform(nullptr);
+    run_.reset();
+    host_.reset();
   }
 
   void Declare(int slot, const std::string& name, int32_t type) {
@@ -64,8 +60,9 @@ class LineClipboard : public ::testing::Test {
   }
 
   ui::HeadlessPlatform platform_;
-  std::unique_ptr<ui::Form> form_;
-  std::unique_ptr<ui::ListBox> list_;
+  std::unique_ptr<EditHost> host_;
+  ui::ListBox* list_ = nullptr;
+  std::optional<RunScope> run_;
 };
 
 TEST_F(LineClipboard, ChosenLinesCarryTheDeclarationsTheyUseAndTheirText) {

@@ -7,7 +7,6 @@
 namespace kq::test {
 
 void ResetDocument() {
-  InitNameTables();
   GetFuncRecordLength();
   InitDocument();
   std::memset(&WorkRecord, 0, sizeof WorkRecord);

@@ -9,25 +9,15 @@
 #include <string>
 #include <vector>
 
+#include "document/edit_host.h"
 #include "document/record_view.h"
 #include "document/run_scope.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "ui/headless/headless_platform.h"
-#include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 
 namespace kq::test {
-
-// A form that holds the edit list, as the main window does.
-class EditHost : public ui::Form {
- public:
-  EditHost()
-      : ui::Form("frmEdit", "Zelvox Voice Response Editor: Untitled"), lstEdit(*this, "lstEdit") {
-    lstEdit.SetMultiSelect(ui::ListBox::MultiSelect::Extended);
-  }
-  ui::ListBox lstEdit;
-};
 
 // Blank declarations and defaults, as a new document has them.
 void ResetDocument();

@@ -15,7 +15,6 @@
 #include "document/run_scope.h"
 #include "tests/support/doc_builder.h"
 #include "ui/headless/headless_platform.h"
-#include "ui/model/form.h"
 #include "ui/model/list_controls.h"
 
 namespace kqtest {
@@ -64,7 +63,7 @@ class DocTest : public ::testing::Test {
   }
 
   ui::HeadlessPlatform platform_;
-  kq::test::EditHost host_;
+  kq::EditHost host_;
   std::optional<kq::RunScope> run_;
   std::string dir_;
 };

@@ -159,7 +159,6 @@ TEST(TextSchema, FunctionNamesAreTheCatalogues) {
   const Json schema = LoadSchema();
   std::vector<std::string> names;
   for (const Json& n : schema["$defs"]["functionName"]["enum"]) names.push_back(n);
-  kq::InitNameTables();
   std::vector<std::string> live;
   for (int no = 0; no < kq::kFuncCount; ++no) {
     if (!kq::IsLiveFunction(no)) continue;
