@@ -4,7 +4,6 @@
 
 #include "document/catalogue.h"
 #include "document/document.h"
-#include "document/field_empty.h"
 #include "document/state.h"
 #include "document/text.h"
 #include "tests/support/doc_fixture.h"
@@ -170,24 +169,6 @@ TEST_F(ScanTest, IllegalNumbersEndTheProgram) {
     EXPECT_THROW(c.scan(), ui::ProgramEnded);
     EXPECT_EQ(platform_.Events().at(0).fields["text"].Str(), c.text);
   }
-}
-
-// The quick emptiness test of the scans answers as the text one does, on fields of every
-// width around its block size, with the NUL, a blank or a mark anywhere.
-TEST(EmptyField, AgreesWithFieldEmpty) {
-  for (size_t width : {1u, 2u, 16u, 28u, 63u, 64u, 65u, 66u, 128u, 129u, 260u}) {
-    for (size_t at = 0; at < width; ++at) {
-      for (const char mark : {'\0', ' ', 'x'}) {
-        std::string field(width, ' ');
-        field[0] = '\0';
-        field[at] = mark;
-        EXPECT_EQ(EmptyField(field.data(), width), FieldEmpty(field)) << width << " " << at;
-        field[0] = 'a';
-        EXPECT_EQ(EmptyField(field.data(), width), FieldEmpty(field)) << width << " " << at;
-      }
-    }
-  }
-  EXPECT_FALSE(EmptyField("", 0));
 }
 
 }  // namespace
