@@ -5,6 +5,7 @@
 #include "document/state.h"
 #include "editor/commands.h"
 #include "editor/select_line.h"
+#include "editor/simulate_prompts.h"
 #include "ui/platform/codepage.h"
 #include "ui/platform/platform.h"
 
@@ -12,16 +13,22 @@ namespace kq {
 
 namespace fs = std::filesystem;
 
+namespace {
+std::unique_ptr<frmSimulate> g_window;
+}  // namespace
+
 // What the engine works with besides its line, made at load.
 struct frmSimulate::Run {
-  explicit Run(ui::ListBox& traceList)
-      : trace(nullptr),
+  Run(ui::ListBox& traceList, ui::MMControl& media)
+      : prompts(media, SpeechAudioFormat),
+        trace(nullptr),
         sandbox(fs::temp_directory_path() / "kqedit-simulate",
                 fs::path(ApplFileName.empty() ? "." : ApplFileName).parent_path()) {
     trace.observer = [&traceList](std::string_view line) {
       traceList.AddItem(ui::Utf8ToCp1252(std::string(line)));
     };
   }
+  PromptPlayer prompts;
   sim::Trace trace;
   sim::Tables tables;
   sim::Sandbox sandbox;
@@ -48,17 +55,20 @@ frmSimulate::frmSimulate() : ui::Form("frmSimulate", "Simulate") {
   Place(cmdStop, 3, 4);
   Place(cmdBreakpoint, 3, 3);
   Place(cmdClose, 4, 4);
+  Place(mciPrompt, 4, 0, 1, 3);
   Place(lblWatch, 5, 0, 1, 3);
   Place(lstWatch, 6, 0, 1, 3);
+  Place(lblTables, 7, 0, 1, 3);
+  Place(lstTables, 8, 0, 1, 3);
   Place(lblTrace, 5, 3, 1, 3);
-  Place(lstTrace, 6, 3, 1, 3);
-  Move(0, 0, 9000, 6600);
+  Place(lstTrace, 6, 3, 3, 3);
+  Move(0, 0, 9000, 8400);
 }
 
 frmSimulate::~frmSimulate() = default;
 
 void frmSimulate::Form_Load() {
-  run_ = std::make_unique<Run>(lstTrace);
+  run_ = std::make_unique<Run>(lstTrace, mciPrompt);
   std::string error;
   if (!run_->tables.Open(PrgHdr, "", "", error)) {
     ui::platform().MsgBox(error, ui::vbExclamation, "Simulate");
@@ -68,6 +78,8 @@ void frmSimulate::Form_Load() {
   sim::EngineOptions options;
   options.speechFormat = SpeechAudioFormat;
   engine_ = std::make_unique<sim::Engine>(line_, run_->trace, run_->tables, run_->sandbox, options);
+  engine_->onPlay = [this](const std::vector<std::string>& files) { run_->prompts.Play(files); };
+  lineCount_ = PrgHdr.LineCount;
   Show();
 }
 
@@ -75,7 +87,16 @@ void frmSimulate::cmdKey_Click(int index) {
   line_.PressKey(cmdKey[index].Caption()[0]);
 }
 
+bool frmSimulate::SameDocument() {
+  // The engine reads the compiled lines as they are: an edit since the run began ends it.
+  if (PrgHdr.CompiledFlag != 0 && PrgHdr.LineCount == lineCount_) return true;
+  lblLine.SetCaption("The application has changed: open Simulate again.");
+  ui::platform().Beep();
+  return false;
+}
+
 void frmSimulate::cmdStep_Click() {
+  if (!SameDocument()) return;
   engine_->Step();
   Show();
 }
@@ -83,6 +104,7 @@ void frmSimulate::cmdStep_Click() {
 void frmSimulate::cmdContinue_Click() {
   // Runs until a breakpoint's line is next, the line waits for the keypad, or the end;
   // a loop that never waits stops after a million lines.
+  if (!SameDocument()) return;
   for (int i = 0; i < 1'000'000; ++i) {
     if (engine_->Step() != sim::StepStatus::Ran) break;
     if (breakpoints_.count(engine_->CurrentLine()) != 0) break;
@@ -92,6 +114,7 @@ void frmSimulate::cmdContinue_Click() {
 
 void frmSimulate::cmdStop_Click() {
   engine_->Stop();
+  run_->prompts.Stop();
   Show();
 }
 
@@ -103,6 +126,12 @@ void frmSimulate::cmdBreakpoint_Click() {
   }
   if (!breakpoints_.erase(line)) breakpoints_.insert(line);
   Show();
+}
+
+void frmSimulate::Form_Unload() {
+  if (!run_) return;
+  run_->prompts.Stop();
+  mciPrompt.SetCommand("Close");
 }
 
 void frmSimulate::Show() {
@@ -121,6 +150,10 @@ void frmSimulate::Show() {
     const int slot = static_cast<int>(i);
     lstWatch.AddItem(vars.Name(slot) + " = " + sim::ToText(vars.Get(slot)));
   }
+  lstTables.Clear();
+  for (const sim::TableState& t : run_->tables.All()) {
+    lstTables.AddItem(run_->tables.CurrentRowText(t));
+  }
 }
 
 void ShowSimulate() {
@@ -130,8 +163,13 @@ void ShowSimulate() {
   }
   if (PrgHdr.CompiledFlag == 0) CompileCommand();
   if (PrgHdr.CompiledFlag == 0) return;
-  frmSimulate form;
-  form.ShowModal();
+  if (g_window && g_window->Loaded()) g_window->Unload();
+  g_window = std::make_unique<frmSimulate>();
+  ui::platform().ShowModeless(*g_window);
+}
+
+frmSimulate* SimulateWindow() {
+  return g_window && g_window->Loaded() ? g_window.get() : nullptr;
 }
 
 }  // namespace kq
