@@ -80,7 +80,7 @@ void frmSimulate::Form_Load() {
   engine_ = std::make_unique<sim::Engine>(line_, run_->trace, run_->tables, run_->sandbox, options);
   engine_->onPlay = [this](const std::vector<std::string>& files) { run_->prompts.Play(files); };
   lineCount_ = PrgHdr.LineCount;
-  Show();
+  Show(false);
 }
 
 void frmSimulate::cmdKey_Click(int index) {
@@ -134,7 +134,7 @@ void frmSimulate::Form_Unload() {
   mciPrompt.SetCommand("Close");
 }
 
-void frmSimulate::Show() {
+void frmSimulate::Show(bool selectLine) {
   if (engine_->Ended()) {
     lblLine.SetCaption(std::string("Ended: ") + sim::ReasonName(engine_->Reason()) + " " +
                        engine_->Message());
@@ -142,7 +142,7 @@ void frmSimulate::Show() {
     const int line = engine_->CurrentLine();
     lblLine.SetCaption("Line " + std::to_string(line) +
                        (breakpoints_.count(line) ? " (breakpoint)" : ""));
-    if (line >= 0 && line < EditList().ListCount()) SelectOnlyLine(line);
+    if (selectLine && line >= 0 && line < EditList().ListCount()) SelectOnlyLine(line);
   }
   lstWatch.Clear();
   const sim::Variables& vars = engine_->Vars();

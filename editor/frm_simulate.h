@@ -56,7 +56,9 @@ class frmSimulate : public ui::Form {
   void Form_Unload() override;
   // False, with the caption saying so, when lines were changed since the run began.
   bool SameDocument();
-  void Show();
+  // Shows the run's state; `selectLine` selects the current line in lstEdit (not at load,
+  // where the line a person chose stays, for a breakpoint).
+  void Show(bool selectLine = true);
 
   struct Run;
   std::unique_ptr<Run> run_;
