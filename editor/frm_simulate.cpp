@@ -68,6 +68,14 @@ frmSimulate::frmSimulate() : ui::Form("frmSimulate", "Simulate") {
 frmSimulate::~frmSimulate() = default;
 
 void frmSimulate::Form_Load() {
+  Start();
+}
+
+void frmSimulate::Start() {
+  engine_.reset();
+  line_ = sim::KeypadLine();
+  lstTrace.Clear();
+  if (run_) run_->prompts.Stop();
   run_ = std::make_unique<Run>(lstTrace, mciPrompt);
   std::string error;
   if (!run_->tables.Open(PrgHdr, "", "", error)) {
@@ -163,9 +171,18 @@ void ShowSimulate() {
   }
   if (PrgHdr.CompiledFlag == 0) CompileCommand();
   if (PrgHdr.CompiledFlag == 0) return;
-  if (g_window && g_window->Loaded()) g_window->Unload();
+  // The window of a form is let go after its unload, and its binding still reads the
+  // form then: an open window starts a new run, a form is replaced only when long closed.
+  if (g_window && g_window->Loaded()) {
+    g_window->Start();
+    return;
+  }
   g_window = std::make_unique<frmSimulate>();
   ui::platform().ShowModeless(*g_window);
+}
+
+void CloseSimulate() {
+  if (g_window && g_window->Loaded()) g_window->Unload();
 }
 
 frmSimulate* SimulateWindow() {

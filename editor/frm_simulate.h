@@ -45,6 +45,8 @@ class frmSimulate : public ui::Form {
 
   const std::set<int>& Breakpoints() const { return breakpoints_; }
   const sim::Engine* Engine() const { return engine_.get(); }
+  // A new run of the application as it is now, the breakpoints kept.
+  void Start();
 
  private:
   void Form_Load() override;
@@ -73,5 +75,7 @@ class frmSimulate : public ui::Form {
 void ShowSimulate();
 // The Simulate window while it is open; null otherwise.
 frmSimulate* SimulateWindow();
+// Unloads the window when it is open (the editor is closing).
+void CloseSimulate();
 
 }  // namespace kq

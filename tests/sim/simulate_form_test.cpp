@@ -64,7 +64,8 @@ TEST(SimulateWindow, ABreakpointStopsTheRunAKeyReachesGetKeysAndTheRecordIsWatch
   EXPECT_EQ(SimulateWindow(), nullptr);
 }
 
-// Lines changed while the window is open: the run does not go on over them.
+// Lines changed while the window is open: the run does not go on over them; Run > Simulate
+// then starts a new run in the same window.
 TEST(SimulateWindow, AChangedApplicationIsNotRun) {
   DocFixture fx;
   std::string error;
@@ -77,6 +78,17 @@ TEST(SimulateWindow, AChangedApplicationIsNotRun) {
   s->cmdStep.UserClick();
   EXPECT_EQ(s->Engine()->Steps(), 0);
   EXPECT_EQ(s->lblLine.Caption(), "The application has changed: open Simulate again.");
+  // Opened again while open: the same window, a new run on the compiled lines.
+  fx.list().SetListIndex(1);
+  s->cmdBreakpoint.UserClick();
+  ShowSimulate();
+  ASSERT_EQ(SimulateWindow(), s);
+  EXPECT_NE(PrgHdr.CompiledFlag, 0);
+  s->cmdRing.UserClick();
+  s->cmdContinue.UserClick();
+  EXPECT_EQ(s->Engine()->CurrentLine(), 1);
+  EXPECT_EQ(s->lblLine.Caption(), "Line 1 (breakpoint)");
+  EXPECT_EQ(s->lstTrace.Items().front(), R"({"event":"line","line":0,"function":"Wait for Call"})");
   s->cmdClose.UserClick();
 }
 
