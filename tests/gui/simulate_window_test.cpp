@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "document/state.h"
+#include "document/text.h"
 #include "editor/frm_simulate.h"
 #include "tests/gui/editor_fixture.h"
 #include "tests/sim/app_text.h"
@@ -42,12 +43,15 @@ class SimulateWindowTest : public EditorWindowTest {
 
 TEST_F(SimulateWindowTest, ABreakpointStopsTheRunOnItsLineAndKeysReachGetKeys) {
   std::string error;
-  ASSERT_TRUE(kq::test::OpenAppText(KQ_SIM_WINDOW_DIR "/app.json", error)) << error;
+  ASSERT_TRUE(kq::test::OpenAppText(KQ_SIM_WINDOW_DIR "/app.json", error, false)) << error;
   kq::ApplFileName = KQ_SIM_WINDOW_DIR "/app.kqx";  // the prompts are found beside it
   kq::SpeechAudioFormat = 6;
   ASSERT_EQ(list()->model()->rowCount(), 8);
 
+  platform.QueueAnswer(ui::vbOK);  // compiled first, as the Compile menu does
   action(form->mnuRunSimulate)->trigger();
+  ASSERT_FALSE(platform.Boxes().empty());
+  EXPECT_EQ(platform.Boxes().back().title, "Compile Information");
   ui::qt::DialogWindow* window = Window();
   ASSERT_NE(window, nullptr);
   ASSERT_TRUE(QTest::qWaitForWindowExposed(window));
