@@ -51,7 +51,7 @@ constexpr std::string_view kProgramForms[] = {
     "frmLenStr", "frmLineNo", "frmListen", "frmOnOffHook",
     "frmPrompts", "frmPrototype", "frmRSwitch", "frmRandom", "frmRecordSound",
     "frmRecordingWave", "frmRemark", "frmReturn", "frmRightStr",
-    "frmRun", "frmSayFile", "frmSayNo", "frmSelectRec",
+    "frmRun", "frmSayFile", "frmSayNo", "frmSelectRec", "frmSimulate",
     "frmSoundFileCounter", "frmTrimStr", "frmUpdateRec", "frmVarExp",
     "frmVoice", "frmWaitForCall", "frmWaitForKey",
 };

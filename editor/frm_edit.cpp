@@ -266,6 +266,7 @@ void FrmEdit::Form_QueryUnload(bool& cancel, ui::UnloadMode) {
 }
 
 void FrmEdit::Form_Unload() {
+  CloseSimulate();
   UnloadProcedure();
 }
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <random>
 #include <set>
@@ -59,6 +60,9 @@ class Engine {
   const Variables& Vars() const { return vars_; }
   // Ends the run from outside (the Stop button): reason End.
   void Stop();
+  // Called with the files found on disk each time prompts are played to a caller on the
+  // line (a window plays them aloud).
+  std::function<void(const std::vector<std::string>& files)> onPlay;
 
  private:
   // ---- moving on

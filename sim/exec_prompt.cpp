@@ -161,6 +161,7 @@ StepStatus Engine::PlayFiles(const std::vector<std::string>& files, bool disable
   const LineStatus s = call_.Play(ms, !disableHangup);
   if (s == LineStatus::Pending) return StepStatus::Waiting;
   if (s == LineStatus::Hangup) HungUp(hangup);
+  if (s == LineStatus::Done && onPlay) onPlay(files);
   return StepStatus::Ran;
 }
 

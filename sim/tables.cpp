@@ -241,6 +241,20 @@ int64_t Tables::Current(const TableState& t) {
   return RecnoAt(t, t.pos);
 }
 
+std::string Tables::CurrentRowText(const TableState& t) {
+  const std::string head = t.name + ": ";
+  if (!t.connected) return head + "not connected";
+  const int64_t recno = Current(t);
+  if (recno <= 0) return head + "no record";
+  std::string text = head + "record " + std::to_string(recno);
+  std::vector<Value> values;
+  if (!store_->Read(t.name, t.columns, recno, values)) return text;
+  for (size_t c = 0; c < values.size() && c < t.varOfColumn.size(); ++c) {
+    text += (c == 0 ? ": " : ", ") + t.varOfColumn[c] + " = " + ToText(values[c]);
+  }
+  return text;
+}
+
 int Tables::ColumnOfField(const TableState& t, int field) {
   for (size_t c = 0; c < t.fieldOfColumn.size(); ++c) {
     if (t.fieldOfColumn[c] == field - 1) return static_cast<int>(c);

@@ -34,12 +34,17 @@ class Tables {
   // The table of a name field (16 bytes); null when not declared.
   TableState* Find(const char* name16);
   SqlStore& Store() { return *store_; }
+  // Every declared table, in the order of the declarations.
+  std::vector<TableState>& All() { return tables_; }
 
   // The records the cursor walks: the selection, or all.
   int64_t SetSize(const TableState& t);
   int64_t RecnoAt(const TableState& t, int64_t index);
   // The current record's number, 0 when there is none.
   int64_t Current(const TableState& t);
+  // The current record as a window shows it: "NAME: record 3: FIELD = value, ...", or
+  // "NAME: not connected", "NAME: no record".
+  std::string CurrentRowText(const TableState& t);
   // The declared field (1 to 24) as a column index, -1 when the field is not bound.
   static int ColumnOfField(const TableState& t, int field);
 

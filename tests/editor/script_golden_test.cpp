@@ -2,7 +2,8 @@
 // runner on the editor, and its JSON lines must equal NAME.expected. "$HOME" in a script
 // stands for a fresh folder of the run; the output names it the same way. A NAME.settings
 // file is the settings store at start; the store at the end follows the events. A NAME.kqx
-// file is copied into the folder of the run before it starts, for the script to open. The date
+// file is copied into the folder of the run before it starts, for the script to open, and so
+// is what a NAME folder holds (text forms, prompts). The date
 // and time of a printed page header are the clock's: they read "####-##-## ##:##:##".
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -70,6 +71,8 @@ TEST_P(ScriptGolden, EventsMatchExpected) {
   if (fs::exists(documentSeed)) {
     std::ofstream(home / documentSeed.filename(), std::ios::binary) << ReadText(documentSeed);
   }
+  const fs::path folderSeed = fs::path(script).replace_extension();
+  if (fs::is_directory(folderSeed)) fs::copy(folderSeed, home, fs::copy_options::recursive);
 
   std::istringstream in(ReplaceAll(ReadText(script), "$HOME", homeText));
   std::ostringstream out;

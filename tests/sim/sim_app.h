@@ -84,8 +84,4 @@ class App {
   int tables_ = 0;
 };
 
-// The builders of the golden cases, by folder name.
-using AppBuilder = std::function<void(App&)>;
-const std::map<std::string, AppBuilder>& GoldenApps();
-
 }  // namespace kq::test
