@@ -62,15 +62,7 @@ inline FloatParts Parts(int16_t form) {
 
 }  // namespace
 
-void G726Encoder32::Encode(const int16_t* samples, size_t n, uint8_t* out) {
-  for (size_t i = 0; i + 1 < n; i += 2) {
-    const int low = Code(samples[i] >> 2);
-    const int high = Code(samples[i + 1] >> 2);
-    *out++ = static_cast<uint8_t>(low | (high << 4));
-  }
-}
-
-int G726Encoder32::Code(int sl) {
+[[gnu::always_inline]] inline int G726Encoder32::Code(int sl) {
   int sezi = 0;
   const FloatParts* past = history_ + at_;
   for (int i = 0; i < 6; ++i) sezi += FloatMultiply(b_[i] >> 2, past[i]);
@@ -121,7 +113,8 @@ int G726Encoder32::Code(int sl) {
   return code;
 }
 
-void G726Encoder32::Update(int y, int wi, int fi, int dq, int sr, int dqsez) {
+[[gnu::always_inline]] inline void G726Encoder32::Update(int y, int wi, int fi, int dq, int sr,
+                                                         int dqsez) {
   const int16_t pk0 = dqsez < 0 ? 1 : 0;
   auto mag = static_cast<int16_t>(dq & 0x7FFF);
 
@@ -223,6 +216,14 @@ void G726Encoder32::Update(int y, int wi, int fi, int dq, int sr, int dqsez) {
     ap_ = static_cast<int16_t>(ap_ + ((0x200 - ap_) >> 4));
   } else {
     ap_ = static_cast<int16_t>(ap_ + ((-ap_) >> 4));
+  }
+}
+
+void G726Encoder32::Encode(const int16_t* samples, size_t n, uint8_t* out) {
+  for (size_t i = 0; i + 1 < n; i += 2) {
+    const int low = Code(samples[i] >> 2);
+    const int high = Code(samples[i + 1] >> 2);
+    *out++ = static_cast<uint8_t>(low | (high << 4));
   }
 }
 
