@@ -4,6 +4,7 @@
 #include "document/state.h"
 #include "document/text.h"
 #include "textform/codec.h"
+#include "textform/json_tree.h"
 
 namespace kq::textform {
 
@@ -20,8 +21,8 @@ Json CompiledToJson(int16_t flag) {
   return flag;
 }
 
-int16_t CompiledFromJson(const Json& j, const Place& where) {
-  if (j.is_boolean()) return j.get<bool>() ? int16_t{-1} : int16_t{0};
+int16_t CompiledFromJson(const JsonNode& j, const Place& where) {
+  if (j.is_boolean()) return j.Bool() ? int16_t{-1} : int16_t{0};
   if (!j.is_number_integer()) throw Fault(where, "expected true, false or a whole number");
   return static_cast<int16_t>(I32FromJson(j, where, INT16_MIN, INT16_MAX));
 }

@@ -17,7 +17,7 @@ TableEntry BlankTableEntry();
 
 // CompiledFlag: true for -1, false for 0, any other value as a number.
 Json CompiledToJson(int16_t flag);
-int16_t CompiledFromJson(const Json& j, const Place& where);
+int16_t CompiledFromJson(const JsonNode& j, const Place& where);
 
 // The catalogue name of a live function ("Say File"), and back; -1 for no such name.
 std::string FunctionName(int funcNo);

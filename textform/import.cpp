@@ -8,14 +8,15 @@
 #include "document/state.h"
 #include "textform/format.h"
 #include "textform/json_fields.h"
+#include "textform/json_tree.h"
 #include "textform/text_form.h"
 
 namespace kq::textform {
 
 namespace {
 
-const Json& ArrayMember(const Json& root, const char* key, const Place& where) {
-  const Json& a = Member(root, key, where);
+const JsonNode& ArrayMember(const JsonNode& root, const char* key, const Place& where) {
+  const JsonNode& a = Member(root, key, where);
   if (!a.is_array()) throw Fault(Place(where, key), "expected an array");
   return a;
 }
@@ -28,12 +29,12 @@ void Claim(std::vector<bool>& taken, int index, const Place& where) {
   taken[static_cast<size_t>(index)] = true;
 }
 
-void ReadVarEntry(const Json& j, const Place& where, VarRef& v) {
+void ReadVarEntry(const JsonNode& j, const Place& where, VarRef& v) {
   v.VarRefType = VarTypeFromJson(Member(j, "type", where), Place(where, "type"));
   TextFromJson(Member(j, "name", where), Place(where, "name"), v.VarRefName, sizeof v.VarRefName);
 }
 
-void ReadVariables(const Json& list, const Place& where, ProgramHeader& h) {
+void ReadVariables(const JsonNode& list, const Place& where, ProgramHeader& h) {
   std::vector<bool> taken(kMaxVariables);
   for (size_t i = 0; i < list.size(); ++i) {
     const Place place(where, i);
@@ -45,20 +46,18 @@ void ReadVariables(const Json& list, const Place& where, ProgramHeader& h) {
   }
 }
 
-void ReadPaths(const Json& list, const Place& where, ProgramHeader& h) {
+void ReadPaths(const JsonNode& list, const Place& where, ProgramHeader& h) {
   std::vector<bool> taken(kPathRows * kPathTypes);
   for (size_t i = 0; i < list.size(); ++i) {
     const Place place(where, i);
     OnlyKnown(list[i], {"row", "type", "name", "path"}, place);
     const int row =
         I32FromJson(Member(list[i], "row", place), Place(place, "row"), 0, kPathRows - 1);
-    const Json& type = Member(list[i], "type", place);
-    if (!type.is_string() || type.get_ref<const std::string&>().size() != 1 ||
-        type.get_ref<const std::string&>()[0] < 'A' ||
-        type.get_ref<const std::string&>()[0] > 'E') {
+    const JsonNode& type = Member(list[i], "type", place);
+    if (!type.is_string() || type.Str().size() != 1 || type.Str()[0] < 'A' || type.Str()[0] > 'E') {
       throw Fault(Place(place, "type"), "expected one of \"A\", \"B\", \"C\", \"D\", \"E\"");
     }
-    const int t = type.get_ref<const std::string&>()[0] - 'A';
+    const int t = type.Str()[0] - 'A';
     Claim(taken, row * kPathTypes + t, place);
     PathEntry& p = h.Path[row][t];
     TextFromJson(Member(list[i], "name", place), Place(place, "name"), p.PathName,
@@ -68,7 +67,7 @@ void ReadPaths(const Json& list, const Place& where, ProgramHeader& h) {
   }
 }
 
-void ReadTables(const Json& list, const Place& where, ProgramHeader& h) {
+void ReadTables(const JsonNode& list, const Place& where, ProgramHeader& h) {
   std::vector<bool> taken(kMaxTables);
   for (size_t i = 0; i < list.size(); ++i) {
     const Place place(where, i);
@@ -78,7 +77,7 @@ void ReadTables(const Json& list, const Place& where, ProgramHeader& h) {
     TableEntry& e = h.Table[at];
     TextFromJson(Member(list[i], "name", place), Place(place, "name"), e.TableName,
                  sizeof e.TableName);
-    const Json& columns = ArrayMember(list[i], "columns", place);
+    const JsonNode& columns = ArrayMember(list[i], "columns", place);
     std::vector<bool> used(kTableColumns);
     const Place columnsPlace(place, "columns");
     for (size_t c = 0; c < columns.size(); ++c) {
@@ -92,12 +91,12 @@ void ReadTables(const Json& list, const Place& where, ProgramHeader& h) {
   }
 }
 
-void ReadLine(const Json& j, const Place& where,
+void ReadLine(const JsonNode& j, const Place& where,
               const std::unordered_map<std::string, int>& functions, StagedLine& line) {
   OnlyKnown(j, {"display", "label", "function", "funcName", "record"}, where);
-  const Json& function = Member(j, "function", where);
+  const JsonNode& function = Member(j, "function", where);
   const auto found =
-      function.is_string() ? functions.find(function.get<std::string>()) : functions.end();
+      function.is_string() ? functions.find(std::string(function.Str())) : functions.end();
   if (found == functions.end()) {
     throw Fault(Place(where, "function"), "unknown function " + function.dump() +
                                               "; a function is named as the catalogue names it");
@@ -105,33 +104,33 @@ void ReadLine(const Json& j, const Place& where,
   const int no = found->second;
   line.entry.LineFuncNo = static_cast<int16_t>(no);
   std::memcpy(line.entry.LineFuncName, FuncNames[no], sizeof line.entry.LineFuncName);
-  if (const auto it = j.find("funcName"); it != j.end()) {
+  if (const JsonNode* it = j.Find("funcName"); it != nullptr) {
     TextFromJson(*it, Place(where, "funcName"), line.entry.LineFuncName,
                  sizeof line.entry.LineFuncName);
   }
   std::memset(line.entry.LineLabel, ' ', sizeof line.entry.LineLabel);
   line.entry.LineLabel[0] = '\0';
-  if (const auto it = j.find("label"); it != j.end()) {
+  if (const JsonNode* it = j.Find("label"); it != nullptr) {
     TextFromJson(*it, Place(where, "label"), line.entry.LineLabel, sizeof line.entry.LineLabel);
   }
   const auto length = static_cast<size_t>(RecordLength[no]);
   const uint8_t* defaults = InitRecord.Image(no);
   line.record.assign(defaults, defaults + length);
-  if (const auto it = j.find("record"); it != j.end()) {
+  if (const JsonNode* it = j.Find("record"); it != nullptr) {
     RecordFromJson(*it, Place(where, "record"), *LayoutOf(ToFn(no)), line.record.data());
   }
-  if (const auto it = j.find("display"); it != j.end()) {
+  if (const JsonNode* it = j.Find("display"); it != nullptr) {
     std::string display(kDisplayLineWidth, ' ');
     DisplayFromJson(*it, Place(where, "display"), display.data(), kDisplayLineWidth);
     line.display = std::move(display);
   }
 }
 
-void Read(const Json& root, StagedDocument& doc) {
+void Read(const JsonNode& root, StagedDocument& doc) {
   const Place top;
   OnlyKnown(root, {"format", "version", "compiled", "variables", "paths", "tables", "lines"}, top);
-  const Json& format = Member(root, "format", top);
-  if (format != kFormatName) {
+  const JsonNode& format = Member(root, "format", top);
+  if (!format.is_string() || format.Str() != kFormatName) {
     throw Fault(Place(top, "format"),
                 "expected " + Json(kFormatName).dump() + ", the text of this program");
   }
@@ -151,7 +150,7 @@ void Read(const Json& root, StagedDocument& doc) {
   ReadPaths(ArrayMember(root, "paths", top), Place(top, "paths"), h);
   ReadTables(ArrayMember(root, "tables", top), Place(top, "tables"), h);
 
-  const Json& lines = ArrayMember(root, "lines", top);
+  const JsonNode& lines = ArrayMember(root, "lines", top);
   if (lines.size() > static_cast<size_t>(kMaxLines)) {
     throw Fault(Place(top, "lines"), std::to_string(lines.size()) +
                                          " lines are more than a document holds (" +
@@ -172,11 +171,8 @@ void Read(const Json& root, StagedDocument& doc) {
 }  // namespace
 
 bool ParseDocument(std::string_view json, StagedDocument& doc, ImportError& error) {
-  Json root;
-  try {
-    root = Json::parse(json.begin(), json.end());
-  } catch (const Json::exception& e) {  // a syntax fault, or a number out of range
-    std::string what = e.what();
+  JsonTree tree(json);
+  if (std::string what; !tree.Parse(what)) {
     if (const size_t end = what.find("] ");
         what.rfind("[json.exception", 0) == 0 && end != std::string::npos) {
       what = what.substr(end + 2);
@@ -185,7 +181,7 @@ bool ParseDocument(std::string_view json, StagedDocument& doc, ImportError& erro
     return false;
   }
   try {
-    Read(root, doc);
+    Read(tree.Root(), doc);
   } catch (const Fault& f) {
     error = {f.place, f.what()};
     return false;

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "textform/codec.h"
+#include "textform/json_tree.h"
 
 namespace kq::textform {
 
@@ -27,9 +28,9 @@ std::string Quoted(const std::string& utf8) {
 }
 
 // The bytes of a JSON string in the system's code page.
-std::string BytesOf(const Json& j, const Place& where) {
+std::string BytesOf(const JsonNode& j, const Place& where) {
   std::string bytes, bad;
-  if (!Utf8ToBytes(j.get_ref<const std::string&>(), bytes, bad)) {
+  if (!Utf8ToBytes(j.Str(), bytes, bad)) {
     throw Fault(where, bad + " has no Windows-1252 character");
   }
   return bytes;
@@ -54,19 +55,21 @@ std::string Place::Str() const {
   return path;
 }
 
-const Json& Member(const Json& object, const char* key, const Place& where) {
+const JsonNode& Member(const JsonNode& object, const char* key, const Place& where) {
   if (!object.is_object()) throw Fault(where, "expected an object");
-  const auto it = object.find(key);
-  if (it == object.end()) throw Fault(where, std::string("\"") + key + "\" is missing");
-  return *it;
+  const JsonNode* member = object.Find(key);
+  if (member == nullptr) throw Fault(where, std::string("\"") + key + "\" is missing");
+  return *member;
 }
 
-void OnlyKnown(const Json& object, std::initializer_list<const char*> known, const Place& where) {
+void OnlyKnown(const JsonNode& object, std::initializer_list<const char*> known,
+               const Place& where) {
   if (!object.is_object()) throw Fault(where, "expected an object");
-  for (const auto& [key, value] : object.items()) {
+  for (size_t i = 0; i < object.size(); ++i) {
+    const std::string_view key = object.Key(i);
     bool found = false;
     for (const char* k : known) found = found || key == k;
-    if (!found) throw Fault(Place(where, key), "unknown member " + Quoted(key));
+    if (!found) throw Fault(Place(where, key), "unknown member " + Quoted(std::string(key)));
   }
 }
 
@@ -141,7 +144,7 @@ Json ElementToJson(const Field& f, const uint8_t* at) {
   return nullptr;
 }
 
-void ElementFromJson(const Json& j, const Place& where, const Field& f, uint8_t* at) {
+void ElementFromJson(const JsonNode& j, const Place& where, const Field& f, uint8_t* at) {
   switch (f.kind) {
     case Kind::I32: {
       const int32_t n = I32FromJson(j, where);
@@ -187,14 +190,14 @@ Json RecordToJson(const RecordLayout& layout, const uint8_t* record) {
 
 // ---- From JSON
 
-void TextFromJson(const Json& j, const Place& where, char* field, size_t width) {
+void TextFromJson(const JsonNode& j, const Place& where, char* field, size_t width) {
   if (j.is_string()) {
     const std::string bytes = BytesOf(j, where);
     if (bytes.find('\0') != std::string::npos) {
       throw Fault(where, "a text may not hold a NUL; write {\"bytes\": ..., \"fill\": ...}");
     }
     if (bytes.size() > width - 1) {
-      throw Fault(where, Quoted(j.get<std::string>()) + " is " + std::to_string(bytes.size()) +
+      throw Fault(where, Quoted(std::string(j.Str())) + " is " + std::to_string(bytes.size()) +
                              " characters long; the field holds at most " +
                              std::to_string(width - 1));
     }
@@ -205,8 +208,8 @@ void TextFromJson(const Json& j, const Place& where, char* field, size_t width) 
   }
   if (!j.is_object()) throw Fault(where, "expected a text: a string or {\"bytes\", \"fill\"}");
   OnlyKnown(j, {"bytes", "fill"}, where);
-  const Json& b = Member(j, "bytes", where);
-  const Json& f = Member(j, "fill", where);
+  const JsonNode& b = Member(j, "bytes", where);
+  const JsonNode& f = Member(j, "fill", where);
   if (!b.is_string()) throw Fault(Place(where, "bytes"), "expected a string");
   if (!f.is_string()) throw Fault(Place(where, "fill"), "expected a string");
   const std::string bytes = BytesOf(b, Place(where, "bytes"));
@@ -221,7 +224,7 @@ void TextFromJson(const Json& j, const Place& where, char* field, size_t width) 
   std::memcpy(field, bytes.data(), bytes.size());
 }
 
-void DisplayFromJson(const Json& j, const Place& where, char* line, size_t width) {
+void DisplayFromJson(const JsonNode& j, const Place& where, char* line, size_t width) {
   if (!j.is_string()) throw Fault(where, "expected a string");
   const std::string bytes = BytesOf(j, where);
   if (bytes.size() > width) {
@@ -232,26 +235,26 @@ void DisplayFromJson(const Json& j, const Place& where, char* line, size_t width
   std::memcpy(line, bytes.data(), bytes.size());
 }
 
-int32_t I32FromJson(const Json& j, const Place& where, int64_t low, int64_t high) {
+int32_t I32FromJson(const JsonNode& j, const Place& where, int64_t low, int64_t high) {
   const auto range = [&] {
     return "expected a whole number from " + std::to_string(low) + " to " + std::to_string(high);
   };
   if (j.is_number_integer()) {
     // An unsigned number above the signed range is out of range too.
-    if (j.is_number_unsigned() && j.get<uint64_t>() > static_cast<uint64_t>(high)) {
+    if (j.is_number_unsigned() && j.Uint64() > static_cast<uint64_t>(high)) {
       throw Fault(where, j.dump() + " is out of range: " + range());
     }
-    const int64_t n = j.get<int64_t>();
+    const int64_t n = j.Int64();
     if (n < low || n > high) throw Fault(where, j.dump() + " is out of range: " + range());
     return static_cast<int32_t>(n);
   }
   throw Fault(where, range());
 }
 
-int32_t VarTypeFromJson(const Json& j, const Place& where) {
+int32_t VarTypeFromJson(const JsonNode& j, const Place& where) {
   if (j.is_string()) {
     for (const TypeName& t : kTypeNames) {
-      if (j.get_ref<const std::string&>() == t.name) return t.type;
+      if (j.Str() == t.name) return t.type;
     }
     throw Fault(where, "unknown variable type " + j.dump() +
                            "; one of \"none\", \"Long\", \"Double\", \"String\", \"Long "
@@ -260,30 +263,32 @@ int32_t VarTypeFromJson(const Json& j, const Place& where) {
   return I32FromJson(j, where);
 }
 
-void VarRefFromJson(const Json& j, const Place& where, VarRef& v) {
+void VarRefFromJson(const JsonNode& j, const Place& where, VarRef& v) {
   OnlyKnown(j, {"type", "name"}, where);
   v.VarRefType = VarTypeFromJson(Member(j, "type", where), Place(where, "type"));
   TextFromJson(Member(j, "name", where), Place(where, "name"), v.VarRefName, sizeof v.VarRefName);
 }
 
-void LabelRefFromJson(const Json& j, const Place& where, LabelRef& l) {
+void LabelRefFromJson(const JsonNode& j, const Place& where, LabelRef& l) {
   OnlyKnown(j, {"name", "line"}, where);
   TextFromJson(Member(j, "name", where), Place(where, "name"), l.LabelRefName,
                sizeof l.LabelRefName);
   l.LabelRefLine = I32FromJson(Member(j, "line", where), Place(where, "line"));
 }
 
-void RecordFromJson(const Json& j, const Place& where, const RecordLayout& layout,
+void RecordFromJson(const JsonNode& j, const Place& where, const RecordLayout& layout,
                     uint8_t* record) {
   if (!j.is_object()) throw Fault(where, "expected an object");
-  for (const auto& [key, value] : j.items()) {
+  for (size_t m = 0; m < j.size(); ++m) {
+    const std::string_view key = j.Key(m);
+    const JsonNode& value = j[m];
     const Field* field = nullptr;
     for (const Field& f : layout.fields) {
       if (key == f.name) field = &f;
     }
     const Place place(where, key);
     if (field == nullptr) {
-      throw Fault(place, "unknown field " + Quoted(key) + " of " + layout.type);
+      throw Fault(place, "unknown field " + Quoted(std::string(key)) + " of " + layout.type);
     }
     if (!field->array) {
       ElementFromJson(value, place, *field, record + field->offset);

@@ -21,6 +21,7 @@
 namespace kq::textform {
 
 using Json = nlohmann::ordered_json;
+class JsonNode;  // a value of an imported text (json_tree.h)
 
 // A place in the JSON, named as a JSON pointer ("/lines/3/record/Target") only when a
 // fault needs the name: a place refers to its parent, which must outlive it.
@@ -54,19 +55,21 @@ Json LabelRefToJson(const LabelRef& l);
 Json RecordToJson(const RecordLayout& layout, const uint8_t* record);
 
 // ---- From JSON; each throws Fault naming `where`.
-void TextFromJson(const Json& j, const Place& where, char* field, size_t width);
-void DisplayFromJson(const Json& j, const Place& where, char* line, size_t width);
-int32_t I32FromJson(const Json& j, const Place& where, int64_t low = INT32_MIN,
+void TextFromJson(const JsonNode& j, const Place& where, char* field, size_t width);
+void DisplayFromJson(const JsonNode& j, const Place& where, char* line, size_t width);
+int32_t I32FromJson(const JsonNode& j, const Place& where, int64_t low = INT32_MIN,
                     int64_t high = INT32_MAX);
-int32_t VarTypeFromJson(const Json& j, const Place& where);
-void VarRefFromJson(const Json& j, const Place& where, VarRef& v);
-void LabelRefFromJson(const Json& j, const Place& where, LabelRef& l);
+int32_t VarTypeFromJson(const JsonNode& j, const Place& where);
+void VarRefFromJson(const JsonNode& j, const Place& where, VarRef& v);
+void LabelRefFromJson(const JsonNode& j, const Place& where, LabelRef& l);
 // Fields left out keep the bytes `record` holds already (the defaults).
-void RecordFromJson(const Json& j, const Place& where, const RecordLayout& layout, uint8_t* record);
+void RecordFromJson(const JsonNode& j, const Place& where, const RecordLayout& layout,
+                    uint8_t* record);
 
 // The member of an object that must be one; throws for anything else.
-const Json& Member(const Json& object, const char* key, const Place& where);
+const JsonNode& Member(const JsonNode& object, const char* key, const Place& where);
 // Throws for a member not in `known`.
-void OnlyKnown(const Json& object, std::initializer_list<const char*> known, const Place& where);
+void OnlyKnown(const JsonNode& object, std::initializer_list<const char*> known,
+               const Place& where);
 
 }  // namespace kq::textform

@@ -236,9 +236,11 @@ int16_t Convert(const char* inputName, int16_t inputFormat, int16_t inputRate,
     if (encoder) {
       encoder->Encode(block, bytes);
     } else {
+      bytes.resize(2 * block.size());
+      uint8_t* to = bytes.data();
       for (const int16_t v : block) {
-        bytes.push_back(static_cast<uint8_t>(v));
-        bytes.push_back(static_cast<uint8_t>(static_cast<uint16_t>(v) >> 8));
+        *to++ = static_cast<uint8_t>(v);
+        *to++ = static_cast<uint8_t>(static_cast<uint16_t>(v) >> 8);
       }
     }
     code = writer.Put(bytes);

@@ -284,3 +284,49 @@ TEST_F(StreamTest, ABatchReportsProgressOnceAJobAndFailuresInJobOrder) {
 }
 
 }  // namespace
+
+// The streaming conversion's own G.726 32 encoder and OKI decoder against the library's
+// coders that the whole-signal calls use: long signals of every kind, including full-scale
+// noise, clipping squares, steady levels and random codewords, which drive the coders'
+// limits and saturation.
+TEST(StreamCoders, OwnCodersGiveTheLibrarysBitsOnLongSignals) {
+  std::mt19937 rng(20261124);
+  std::vector<int16_t> signal;
+  const std::vector<int16_t> speech = SpeechLike(8000, 200000, 99);
+  signal.insert(signal.end(), speech.begin(), speech.end());
+  for (int i = 0; i < 200000; ++i) signal.push_back(static_cast<int16_t>(rng()));
+  for (int i = 0; i < 100000; ++i) signal.push_back(i / 37 % 2 == 0 ? 32767 : -32768);
+  for (const int level : {32767, -32768, 0, 1, -1, 12000})
+    signal.insert(signal.end(), 60000, static_cast<int16_t>(level));
+  for (int i = 0; i < 100000; ++i) signal.push_back(static_cast<int16_t>(i * 7 % 65536 - 32768));
+  for (int i = 0; i < 100000; ++i)
+    signal.push_back(static_cast<int16_t>(static_cast<int>(rng() % 64) - 32));
+
+  StreamEncoder encoder(kRhetorex32);
+  Bytes bytes;
+  for (size_t at = 0; at < signal.size(); at += 4099) {
+    encoder.Encode(std::span(signal).subspan(at, std::min<size_t>(4099, signal.size() - at)),
+                   bytes);
+  }
+  encoder.Finish(bytes);
+  const Bytes library = Encode(kRhetorex32, signal);
+  ASSERT_EQ(bytes.size(), library.size());
+  EXPECT_TRUE(bytes == library)
+      << "first difference at byte "
+      << std::mismatch(bytes.begin(), bytes.end(), library.begin()).first - bytes.begin();
+
+  Bytes codewords(300000);
+  for (uint8_t& b : codewords) b = static_cast<uint8_t>(rng());
+  codewords.insert(codewords.end(), 50000, 0x77);  // the largest steps, up to the clipping
+  codewords.insert(codewords.end(), 50000, 0xFF);
+  codewords.insert(codewords.end(), 50000, 0x00);
+  for (const int format : {kOki32, kOki24}) {
+    StreamDecoder decoder(format);
+    std::vector<int16_t> samples;
+    for (size_t at = 0; at < codewords.size(); at += 8191) {
+      decoder.Decode(
+          std::span(codewords).subspan(at, std::min<size_t>(8191, codewords.size() - at)), samples);
+    }
+    EXPECT_TRUE(samples == Decode(format, codewords)) << format;
+  }
+}
