@@ -140,6 +140,9 @@ void frmSimulate::Form_Unload() {
   if (!run_) return;
   run_->prompts.Stop();
   mciPrompt.SetCommand("Close");
+  // The window outlives the editor (it is let go with the program's statics): its player
+  // goes now, while the application that made it still stands.
+  mciPrompt.ReleaseDevice();
 }
 
 void frmSimulate::Show(bool selectLine) {

@@ -38,6 +38,11 @@ MediaDevice& MMControl::Device() {
   return *device_;
 }
 
+void MMControl::ReleaseDevice() {
+  if (device_ && device_->IsOpen()) device_->Close();
+  device_.reset();
+}
+
 void MMControl::SetCommand(const std::string& command) {
   command_ = command;
   MediaDevice& d = Device();

@@ -46,6 +46,9 @@ class MMControl : public Control {
   // The position the next "Seek" goes to, in milliseconds.
   void SetFrom(int32_t ms) { from_ = ms; }
   const std::string& Command() const { return command_; }
+  // Closes the device and lets the platform's player go now rather than with the control:
+  // for a control of a window that outlives the desktop program's application object.
+  void ReleaseDevice();
   // Runs a command: "Open", "Close", "Play", "Record", "Save", "Seek", "Stop", "Prev",
   // "Next", "Pause", "Back", "Step", "Eject". Error tells how it went.
   void SetCommand(const std::string& command);
