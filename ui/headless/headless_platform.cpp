@@ -168,8 +168,16 @@ void HeadlessPlatform::Beep() {
   Emit(Object("beep"));
 }
 
+Form* HeadlessPlatform::BlockingForm(const Form& form) const {
+  for (auto it = open_.rbegin(); it != open_.rend() && *it != &form; ++it) {
+    if (std::find(modalShown_.begin(), modalShown_.end(), *it) != modalShown_.end()) return *it;
+  }
+  return nullptr;
+}
+
 void HeadlessPlatform::ShowModal(Form& form) {
   open_.push_back(&form);
+  modalShown_.push_back(&form);
   Json j = Object("show");
   j.Set("form", form.Name());
   Emit(std::move(j));
@@ -184,11 +192,15 @@ void HeadlessPlatform::ShowModal(Form& form) {
     }
     if (!action) {
       open_.erase(std::remove(open_.begin(), open_.end(), &form), open_.end());
+      modalShown_.erase(std::remove(modalShown_.begin(), modalShown_.end(), &form),
+                        modalShown_.end());
       throw ModalNotDriven(form.Name());
     }
     action(form);
     if (form.Loaded()) {
       open_.erase(std::remove(open_.begin(), open_.end(), &form), open_.end());
+      modalShown_.erase(std::remove(modalShown_.begin(), modalShown_.end(), &form),
+                        modalShown_.end());
       throw ModalNotDriven(form.Name());
     }
   }
@@ -204,6 +216,7 @@ void HeadlessPlatform::Show(Form& form) {
 
 void HeadlessPlatform::FormUnloaded(Form& form) {
   open_.erase(std::remove(open_.begin(), open_.end(), &form), open_.end());
+  modalShown_.erase(std::remove(modalShown_.begin(), modalShown_.end(), &form), modalShown_.end());
   Json j = Object("unload");
   j.Set("form", form.Name());
   Emit(std::move(j));

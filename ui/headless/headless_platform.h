@@ -88,6 +88,9 @@ class HeadlessPlatform : public Platform {
   // The forms shown and not yet unloaded, outermost first.
   const std::vector<Form*>& OpenForms() const { return open_; }
   Form* TopForm() const { return open_.empty() ? nullptr : open_.back(); }
+  // The modal form above `form` that keeps a person from it, or null: windows shown
+  // without a modal loop (the main window, Simulate, Call Flow) take clicks side by side.
+  Form* BlockingForm(const Form& form) const;
   const std::vector<std::string>& PrintedRows() const { return printed_; }
 
   // ---- Platform
@@ -127,6 +130,7 @@ class HeadlessPlatform : public Platform {
   std::deque<std::pair<std::optional<std::string>, int>> files_;  // path, line
   std::deque<std::optional<PrintDialogRequest>> prints_;
   std::deque<std::pair<std::string, std::function<void(Form&)>>> modal_;
+  std::vector<const Form*> modalShown_;  // the forms of open_ shown modally
   std::vector<Event> events_;
   std::ostream* stream_ = nullptr;
   std::map<std::string, std::map<std::string, std::string>> settings_;

@@ -290,8 +290,8 @@ class Runner {
       Refused("form " + name + " is not shown");
       return nullptr;
     }
-    if (form != p_.TopForm()) {
-      Refused("form " + name + " is behind " + p_.TopForm()->Name());
+    if (const Form* blocker = p_.BlockingForm(*form)) {
+      Refused("form " + name + " is behind " + blocker->Name());
       return nullptr;
     }
     return form;
