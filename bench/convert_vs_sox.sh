@@ -24,13 +24,15 @@ sox -n -r 44100 -b 16 -c 1 speech.wav synth "$seconds" sine 200-2000 synth "$sec
   mix tremolo 4 70 gain -n -6
 "$kqx" convert speech.wav speech.o32 >/dev/null
 
-# Runs a command under /usr/bin/time -v; prints "SECONDS KBYTES".
+# Runs a command under /usr/bin/time -v; prints "SECONDS KBYTES". The time is bash's clock
+# around the whole process, to the microsecond (time's own is in hundredths of a second,
+# too coarse for the short decodes); the peak memory is time's.
 measure() {
+  local start=$EPOCHREALTIME
   /usr/bin/time -v -o time.txt "$@" >/dev/null 2>&1 || { echo "failed: $*" >&2; exit 1; }
-  awk -F': ' '/Elapsed \(wall clock\)/ {
-                n = split($2, p, ":"); t = 0; for (i = 1; i <= n; ++i) t = t * 60 + p[i] }
-              /Maximum resident set size/ { kb = $2 }
-              END { printf "%.3f %d\n", t, kb }' time.txt
+  local end=$EPOCHREALTIME
+  awk -v a="$start" -v b="$end" -F': ' '/Maximum resident set size/ { kb = $2 }
+              END { printf "%.4f %d\n", b - a, kb }' time.txt
 }
 
 median() { sort -g | awk '{ v[NR] = $1 } END { print (NR % 2) ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2 }'; }
@@ -51,7 +53,7 @@ compare() {
   kt=$(cut -d' ' -f1 kqx.t | median); st=$(cut -d' ' -f1 sox.t | median)
   km=$(cut -d' ' -f2 kqx.t | sort -n | tail -n 1); sm=$(cut -d' ' -f2 sox.t | sort -n | tail -n 1)
   ratio=$(median <ratio.t)
-  printf '%-24s %9.3f %9.3f %7.3f %12d %12d\n' "$name" "$kt" "$st" "$ratio" "$km" "$sm"
+  printf '%-24s %9.4f %9.4f %7.3f %12d %12d\n' "$name" "$kt" "$st" "$ratio" "$km" "$sm"
   worst=$(awk -v a="$ratio" -v b="$worst" 'BEGIN { print (a > b) ? a : b }')
 }
 
