@@ -8,26 +8,17 @@
 
 #include "document/catalogue.h"
 #include "document/document.h"
-#include "document/edit_host.h"
 #include "document/file.h"
 #include "document/run_scope.h"
 #include "document/state.h"
+#include "fuzz/fuzz_harness.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/model/list_controls.h"
 
 namespace {
 
-// The platform and the hidden list live as long as the process; each input gets a run of
-// its own (RunScope), so that nothing one input leaves behind reaches the next.
-struct Harness {
-  ui::HeadlessPlatform platform;
-  kq::EditHost host{"Editor", ui::ListBox::MultiSelect::None};
-};
-
-Harness& TheHarness() {
-  static Harness h;
-  return h;
-}
+using kq::fuzz::Harness;
+using kq::fuzz::TheHarness;
 
 // One Remark line in the new document.
 void OneRemarkLine(Harness& h) {

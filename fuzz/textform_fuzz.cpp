@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "document/edit_host.h"
 #include "document/run_scope.h"
+#include "fuzz/fuzz_harness.h"
 #include "textform/text_form.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/model/list_controls.h"
@@ -18,17 +18,8 @@
 
 namespace {
 
-// The platform and the hidden list live as long as the process; each input gets a run of
-// its own (RunScope), so that nothing one input leaves behind reaches the next.
-struct Harness {
-  ui::HeadlessPlatform platform;
-  kq::EditHost host{"Editor", ui::ListBox::MultiSelect::None};
-};
-
-Harness& TheHarness() {
-  static Harness h;
-  return h;
-}
+using kq::fuzz::Harness;
+using kq::fuzz::TheHarness;
 
 // Parses and installs `json`; the export of the installed document, or nothing.
 bool ImportAndExport(std::string_view json, std::string& text) {
