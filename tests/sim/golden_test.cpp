@@ -11,6 +11,8 @@
 #include <set>
 #include <sstream>
 
+#include <unistd.h>
+
 #include "document/catalogue.h"
 #include "document/text.h"
 #include "sim/run.h"
@@ -60,7 +62,9 @@ GoldenRun RunCase(const fs::path& folder) {
     o.seed = j.value("seed", 1);
     o.maxSteps = j.value("maxSteps", int64_t{10'000'000});
   }
-  const fs::path sandbox = fs::temp_directory_path() / ("kq-golden-" + folder.filename().string());
+  // A sandbox of this process's own: the tests run side by side, some on the same case.
+  const fs::path sandbox = fs::temp_directory_path() / ("kq-golden-" + folder.filename().string() +
+                                                        "-" + std::to_string(::getpid()));
   fs::remove_all(sandbox);
   o.sandboxDir = sandbox.string();
 
