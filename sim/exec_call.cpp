@@ -6,17 +6,11 @@
 #include "document/text.h"
 #include "sim/call_script.h"
 #include "sim/engine.h"
+#include "sim/record_of.h"
 
 namespace kq::sim {
 
 namespace {
-
-template <typename R>
-R RecordOf(const uint8_t* block) {
-  R r;
-  std::memcpy(&r, block, sizeof r);
-  return r;
-}
 
 bool Dialable(const std::string& n) {
   if (n.empty()) return false;

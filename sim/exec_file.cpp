@@ -7,21 +7,11 @@
 #include "document/header.h"
 #include "document/text.h"
 #include "sim/engine.h"
+#include "sim/record_of.h"
 
 namespace kq::sim {
 
 namespace fs = std::filesystem;
-
-namespace {
-
-template <typename R>
-R RecordOf(const uint8_t* block) {
-  R r;
-  std::memcpy(&r, block, sizeof r);
-  return r;
-}
-
-}  // namespace
 
 void Engine::ExportLine(const VarExportRec& r) {
   static const char* kSeps[] = {",", ";", " ", "\t", ""};

@@ -8,17 +8,11 @@
 #include "document/state.h"
 #include "document/text.h"
 #include "sim/engine.h"
+#include "sim/record_of.h"
 
 namespace kq::sim {
 
 namespace {
-
-template <typename R>
-R RecordOf(const uint8_t* block) {
-  R r;
-  std::memcpy(&r, block, sizeof r);
-  return r;
-}
 
 bool Compare(double a, double b, int op) {
   switch (op) {

@@ -9,6 +9,7 @@
 #include "document/state.h"
 #include "document/text.h"
 #include "sim/engine.h"
+#include "sim/record_of.h"
 #include "speech/codec/codecs.h"
 #include "speech/codec/convert.h"
 #include "speech/codec/resample.h"
@@ -19,13 +20,6 @@ namespace kq::sim {
 namespace fs = std::filesystem;
 
 namespace {
-
-template <typename R>
-R RecordOf(const uint8_t* block) {
-  R r;
-  std::memcpy(&r, block, sizeof r);
-  return r;
-}
 
 std::string Field16(const char (&f)[16]) {
   std::string_view v(f, 16);

@@ -5,19 +5,9 @@
 #include "document/functions.h"
 #include "document/text.h"
 #include "sim/engine.h"
+#include "sim/record_of.h"
 
 namespace kq::sim {
-
-namespace {
-
-template <typename R>
-R RecordOf(const uint8_t* block) {
-  R r;
-  std::memcpy(&r, block, sizeof r);
-  return r;
-}
-
-}  // namespace
 
 void Engine::TraceDb(const char* op, const TableState& t, int64_t recno) {
   trace_.Begin("db").Field("op", op).Field("table", t.name).Field("recno", recno).End();
