@@ -1,5 +1,9 @@
 #include "speech/codec/g726_encoder.h"
 
+#if KQ_G726_VECTOR
+#include "speech/codec/g726_vector.h"
+#endif
+
 #include <algorithm>
 #include <bit>
 #include <cstdlib>
@@ -219,7 +223,36 @@ inline FloatParts Parts(int16_t form) {
   }
 }
 
+bool G726Encoder32::HasVectorCoder() {
+#if KQ_G726_VECTOR
+  static const bool has = __builtin_cpu_supports("avx2");
+  return has;
+#else
+  return false;
+#endif
+}
+
+G726Encoder32::G726Encoder32(bool portable) {
+#if KQ_G726_VECTOR
+  if (!portable && HasVectorCoder()) vector_ = g726_vector::NewState();
+#else
+  (void)portable;
+#endif
+}
+
+G726Encoder32::~G726Encoder32() {
+#if KQ_G726_VECTOR
+  if (vector_ != nullptr) g726_vector::DeleteState(vector_);
+#endif
+}
+
 void G726Encoder32::Encode(const int16_t* samples, size_t n, uint8_t* out) {
+#if KQ_G726_VECTOR
+  if (vector_ != nullptr) {
+    g726_vector::Encode(vector_, samples, n, out);
+    return;
+  }
+#endif
   for (size_t i = 0; i + 1 < n; i += 2) {
     const int low = Code(samples[i] >> 2);
     const int high = Code(samples[i + 1] >> 2);

@@ -1,6 +1,7 @@
-// A G.726 encoder at 32 kbit/s from 16-bit linear samples, in plain integer code that the
-// compiler can inline: the same codewords, bit for bit, as the general coder of the codec
-// library that it stands in for in the streaming conversion, at a fraction of its time.
+// A G.726 encoder at 32 kbit/s from 16-bit linear samples: the same codewords, bit for bit,
+// as the general coder of the codec library that it stands in for in the streaming
+// conversion, at a fraction of its time. Where the processor has AVX2 the vector coder
+// (g726_vector.h) does the work; elsewhere the portable coder here, in plain integer code.
 #pragma once
 
 #include <cstddef>
@@ -8,8 +9,21 @@
 
 namespace kq::speech {
 
+namespace g726_vector {
+struct State;
+}
+
 class G726Encoder32 {
  public:
+  // `portable` asks for the portable coder on every processor (the tests compare the two).
+  explicit G726Encoder32(bool portable = false);
+  ~G726Encoder32();
+  G726Encoder32(const G726Encoder32&) = delete;
+  G726Encoder32& operator=(const G726Encoder32&) = delete;
+
+  // Whether this processor runs the vector coder.
+  static bool HasVectorCoder();
+
   // A value in the 4-bit exponent, 6-bit mantissa form, taken apart: its exponent less 19,
   // its mantissa and 1 for a negative value.
   struct FloatParts {
@@ -41,6 +55,7 @@ class G726Encoder32 {
   int at_ = 0;
   FloatParts sr_[2] = {{-19, 32, 0}, {-19, 32, 0}};  // the last two reconstructed samples
   bool td_ = false;                                  // tone detected
+  g726_vector::State* vector_ = nullptr;             // the vector coder's, when it works
 };
 
 }  // namespace kq::speech

@@ -5,13 +5,16 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cmath>
 #include <filesystem>
+#include <iostream>
 #include <random>
 
 #include "speech/codec/batch.h"
 #include "speech/codec/codecs.h"
 #include "speech/codec/convert.h"
 #include "speech/codec/convert_codes.h"
+#include "speech/codec/g726_encoder.h"
 #include "speech/codec/resample.h"
 #include "speech/codec/wave_file.h"
 #include "tests/speech/speech_fixture.h"
@@ -283,14 +286,9 @@ TEST_F(StreamTest, ABatchReportsProgressOnceAJobAndFailuresInJobOrder) {
   EXPECT_EQ(fs::file_size(PathOf("out0.mlw")), ResampledLength(3000, 22050, 8000));
 }
 
-}  // namespace
-
-// The streaming conversion's own G.726 32 encoder and OKI decoder against the library's
-// coders that the whole-signal calls use: long signals of every kind, including full-scale
-// noise, clipping squares, steady levels and random codewords, which drive the coders'
-// limits and saturation.
-TEST(StreamCoders, OwnCodersGiveTheLibrarysBitsOnLongSignals) {
-  std::mt19937 rng(20261124);
+// Long signals of every kind, including full-scale noise, clipping squares, steady levels
+// and small noise, which drive the coders' limits, saturation and tone detection.
+std::vector<int16_t> HardSignal(std::mt19937& rng) {
   std::vector<int16_t> signal;
   const std::vector<int16_t> speech = SpeechLike(8000, 200000, 99);
   signal.insert(signal.end(), speech.begin(), speech.end());
@@ -301,6 +299,24 @@ TEST(StreamCoders, OwnCodersGiveTheLibrarysBitsOnLongSignals) {
   for (int i = 0; i < 100000; ++i) signal.push_back(static_cast<int16_t>(i * 7 % 65536 - 32768));
   for (int i = 0; i < 100000; ++i)
     signal.push_back(static_cast<int16_t>(static_cast<int>(rng() % 64) - 32));
+  // Tones, whose ends reset the predictor.
+  for (int tone = 0; tone < 40; ++tone) {
+    const double step = 0.05 + 0.07 * tone;
+    for (int i = 0; i < 3000; ++i)
+      signal.push_back(static_cast<int16_t>(std::lround(9000.0 * std::sin(step * i))));
+    for (int i = 0; i < 500; ++i)
+      signal.push_back(static_cast<int16_t>(static_cast<int>(rng() % 20001) - 10000));
+  }
+  return signal;
+}
+
+}  // namespace
+
+// The streaming conversion's own G.726 32 encoder and OKI decoder against the library's
+// coders that the whole-signal calls use.
+TEST(StreamCoders, OwnCodersGiveTheLibrarysBitsOnLongSignals) {
+  std::mt19937 rng(20261124);
+  const std::vector<int16_t> signal = HardSignal(rng);
 
   StreamEncoder encoder(kRhetorex32);
   Bytes bytes;
@@ -328,5 +344,30 @@ TEST(StreamCoders, OwnCodersGiveTheLibrarysBitsOnLongSignals) {
           std::span(codewords).subspan(at, std::min<size_t>(8191, codewords.size() - at)), samples);
     }
     EXPECT_TRUE(samples == Decode(format, codewords)) << format;
+  }
+}
+
+// Both G.726 32 coders, the vector one where this processor has it, against the library's
+// bits, fed in blocks of uneven (even) lengths.
+TEST(StreamCoders, BothG726CodersGiveTheLibrarysBits) {
+  std::mt19937 rng(7);
+  const std::vector<int16_t> signal = HardSignal(rng);
+  const Bytes library = Encode(kRhetorex32, signal);
+  for (const bool portable : {true, false}) {
+    if (!portable && !G726Encoder32::HasVectorCoder()) {
+      std::cout << "this processor has no AVX2: the vector coder is not tried\n";
+      continue;
+    }
+    G726Encoder32 encoder(portable);
+    Bytes bytes(signal.size() / 2);
+    size_t at = 0;
+    for (size_t block = 2; at < signal.size(); block = block * 3 % 8190 + 2) {
+      const size_t n = std::min(block, signal.size() - at);
+      encoder.Encode(signal.data() + at, n, bytes.data() + at / 2);
+      at += n;
+    }
+    EXPECT_TRUE(bytes == library)
+        << (portable ? "portable" : "vector") << ": first difference at byte "
+        << std::mismatch(bytes.begin(), bytes.end(), library.begin()).first - bytes.begin();
   }
 }
