@@ -12,15 +12,11 @@ constexpr int kStepSize[49] = {16,  17,  19,  21,  23,  25,   28,   31,   34,   
                                658, 724, 796, 876, 963, 1060, 1166, 1282, 1411, 1552};
 constexpr int kStepChange[8] = {-1, -1, -1, -1, 2, 4, 6, 8};
 
-// For each step index and codeword: the difference it adds (the step's parts summed as the
-// board does, each shifted on its own) and the next step index.
-struct Entry {
-  int16_t difference;
-  uint8_t next;
-};
+// For each step index and codeword: the difference it adds, the step's parts summed as the
+// board does, each shifted on its own.
 struct Table {
-  Entry entry[49][16];
-  constexpr Table() : entry() {
+  int16_t difference[49][16];
+  constexpr Table() : difference() {
     for (int s = 0; s < 49; ++s) {
       for (int code = 0; code < 16; ++code) {
         const int ss = kStepSize[s];
@@ -28,9 +24,7 @@ struct Table {
         if (code & 1) e += ss >> 2;
         if (code & 2) e += ss >> 1;
         if (code & 4) e += ss;
-        if (code & 8) e = -e;
-        entry[s][code] = {static_cast<int16_t>(e),
-                          static_cast<uint8_t>(std::clamp(s + kStepChange[code & 7], 0, 48))};
+        difference[s][code] = static_cast<int16_t>(code & 8 ? -e : e);
       }
     }
   }
@@ -39,18 +33,25 @@ constexpr Table kTable;
 
 }  // namespace
 
-inline int OkiDecoder::Next(int code) {
-  const Entry& e = kTable.entry[step_][code];
-  last_ = std::clamp(last_ + e.difference, -2048, 2047);
-  step_ = e.next;
-  return last_ * 16;
-}
-
+// The state is kept in locals while a block lasts: the input bytes may alias anything, so
+// members would go to memory and back for every byte. The next step index is added, not
+// looked up, which keeps a load's latency off the chain from one codeword to the next.
 void OkiDecoder::Decode(const uint8_t* bytes, size_t n, int16_t* out) {
+  int last = last_;
+  int step = step_;
+  const auto next = [&](int code) {
+    const int difference = kTable.difference[step][code];
+    step = std::clamp(step + kStepChange[code & 7], 0, 48);
+    last = std::clamp(last + difference, -2048, 2047);
+    return static_cast<int16_t>(last * 16);
+  };
   for (size_t i = 0; i < n; ++i) {
-    *out++ = static_cast<int16_t>(Next(bytes[i] >> 4));
-    *out++ = static_cast<int16_t>(Next(bytes[i] & 0xF));
+    const int byte = bytes[i];
+    *out++ = next(byte >> 4);
+    *out++ = next(byte & 0xF);
   }
+  last_ = last;
+  step_ = step;
 }
 
 }  // namespace kq::speech

@@ -14,8 +14,6 @@ class OkiDecoder {
   void Decode(const uint8_t* bytes, size_t n, int16_t* out);
 
  private:
-  int Next(int code);
-
   int last_ = 0;  // the last 12-bit sample
   int step_ = 0;  // the index of the step size
 };
