@@ -20,4 +20,11 @@ class Speaker {
 // saying why, when the synthesizer's data or the voice is missing.
 std::unique_ptr<Speaker> OpenSynthSpeaker(const std::string& voice, std::string& error);
 
+// The name of the synthesizer's shared library, loaded when a speaker is first opened.
+const char* SynthLibrary();
+
+// Empty when the synthesizer's shared library `file` loads with every call the speaker
+// makes, else the message that opening a speaker would give.
+std::string SynthLibraryFault(const char* file);
+
 }  // namespace kq::prompts

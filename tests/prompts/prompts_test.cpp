@@ -202,3 +202,12 @@ TEST(SynthSpeaker, SpeaksWordsForAPlausibleTime) {
 }
 
 }  // namespace
+
+// The synthesizer's library is loaded when a speaker is first opened: the installed one
+// has every call, and a library that is not there is named in the message.
+TEST(SynthSpeaker, ItsLibraryIsLoadedByName) {
+  EXPECT_EQ(SynthLibraryFault(SynthLibrary()), "");
+  EXPECT_EQ(SynthLibraryFault("libkq-no-such-synth.so.9"),
+            "espeak-ng could not start: its library (libkq-no-such-synth.so.9) is not installed");
+  EXPECT_NE(SynthLibraryFault("libc.so.6").find("lacks a call"), std::string::npos);
+}
