@@ -28,21 +28,23 @@ class BlockQueue {
     code_ = code;
     ready_.notify_one();
   }
-  // The next block; false when the giver has finished and all blocks are taken.
+  // The next block; false when the giver has finished and all blocks are taken, or when
+  // the taking has been stopped.
   bool Pop(std::vector<int16_t>& block) {
     std::unique_lock lock(mutex_);
-    ready_.wait(lock, [&] { return !blocks_.empty() || finished_; });
-    if (blocks_.empty()) return false;
+    ready_.wait(lock, [&] { return !blocks_.empty() || finished_ || stopped_; });
+    if (blocks_.empty() || stopped_) return false;
     block = std::move(blocks_.front());
     blocks_.pop_front();
     room_.notify_one();
     return true;
   }
-  // The taker gives up: a waiting giver returns.
+  // The taking stops: a waiting giver returns, and so does a waiting taker.
   void Stop() {
     std::lock_guard lock(mutex_);
     stopped_ = true;
     room_.notify_all();
+    ready_.notify_all();
   }
   int Code() {
     std::lock_guard lock(mutex_);

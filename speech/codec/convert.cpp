@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <bit>
 #include <cctype>
 #include <cerrno>
 #include <memory>
@@ -171,9 +172,10 @@ class SampleReader {
 class ByteWriter {
  public:
   int Open(const char* name) { return file_.Open(name) == 0 ? kConvertOk : kOutputOpenError; }
-  int Put(const std::vector<uint8_t>& bytes) {
-    if (bytes.empty()) return kConvertOk;
-    return file_.Write(bytes.data(), bytes.size()) == 0 ? kConvertOk : kOutputWriteError;
+  int Put(const std::vector<uint8_t>& bytes) { return Put(bytes.data(), bytes.size()); }
+  int Put(const void* data, size_t n) {
+    if (n == 0) return kConvertOk;
+    return file_.Write(data, n) == 0 ? kConvertOk : kOutputWriteError;
   }
   int Commit() { return file_.Commit() == 0 ? kConvertOk : kOutputWriteError; }
 
@@ -212,29 +214,56 @@ int16_t Convert(const char* inputName, int16_t inputFormat, int16_t inputRate,
   } else {
     encoder = std::make_unique<StreamEncoder>(outputFormat);
   }
-  // One thread reads and resamples, this one encodes and writes.
-  BlockQueue queue;
-  std::thread giver([&queue, &reader, rate] {
+  // One thread reads and decodes, one resamples, this one encodes and writes. The
+  // resampling is the longest stage for most formats and has a core of its own; where the
+  // encoding is the longest (G.726), the reading stays with the resampling instead, so that
+  // the encoding has the other core to itself.
+  const bool readApart = outputFormat != kRhetorex32 && outputFormat != kRhetorex24;
+  BlockQueue read;
+  BlockQueue resampled;
+  std::thread reading;
+  if (readApart) {
+    reading = std::thread([&read, &reader] {
+      for (;;) {
+        std::vector<int16_t> in;
+        if (const int code = reader.Next(in); code != kConvertOk) return read.Finish(code);
+        if (in.empty()) return read.Finish(kConvertOk);
+        if (!read.Push(std::move(in))) return;
+      }
+    });
+  }
+  std::thread resampling([&read, &resampled, &reader, rate, readApart] {
     StreamResampler resampler(reader.Rate(), rate, reader.Count());
     std::vector<int16_t> in;
+    int code = kConvertOk;
     for (;;) {
-      if (const int code = reader.Next(in); code != kConvertOk) return queue.Finish(code);
-      std::vector<int16_t> out;
-      if (in.empty()) {
-        resampler.Finish(out);
-      } else {
-        resampler.Process(in, out);
+      if (readApart) {
+        if (!read.Pop(in)) {
+          code = read.Code();
+          break;
+        }
+      } else if (code = reader.Next(in); code != kConvertOk || in.empty()) {
+        break;
       }
-      if (!out.empty() && !queue.Push(std::move(out))) return;
-      if (in.empty()) return queue.Finish(kConvertOk);
+      std::vector<int16_t> out;
+      resampler.Process(in, out);
+      if (!out.empty() && !resampled.Push(std::move(out))) return read.Stop();
     }
+    if (code != kConvertOk) return resampled.Finish(code);
+    std::vector<int16_t> out;
+    resampler.Finish(out);
+    if (!out.empty() && !resampled.Push(std::move(out))) return read.Stop();
+    resampled.Finish(kConvertOk);
   });
   int code = writer.Put(bytes);
   bytes.clear();
   std::vector<int16_t> block;
-  while (code == kConvertOk && queue.Pop(block)) {
+  while (code == kConvertOk && resampled.Pop(block)) {
     if (encoder) {
       encoder->Encode(block, bytes);
+    } else if constexpr (std::endian::native == std::endian::little) {
+      code = writer.Put(block.data(), 2 * block.size());  // the samples are the file's bytes
+      continue;
     } else {
       bytes.resize(2 * block.size());
       uint8_t* to = bytes.data();
@@ -246,9 +275,11 @@ int16_t Convert(const char* inputName, int16_t inputFormat, int16_t inputRate,
     code = writer.Put(bytes);
     bytes.clear();
   }
-  queue.Stop();
-  giver.join();
-  if (code == kConvertOk) code = queue.Code();
+  resampled.Stop();
+  read.Stop();
+  resampling.join();
+  if (reading.joinable()) reading.join();
+  if (code == kConvertOk) code = resampled.Code();
   if (code == kConvertOk && encoder) {
     encoder->Finish(bytes);
     code = writer.Put(bytes);

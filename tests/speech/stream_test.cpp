@@ -240,8 +240,10 @@ TEST_F(StreamTest, FaultsFoundLateLeaveTheOutputAsItWas) {
   EXPECT_EQ(Convert(Write("short.wav", shortData), kWave, out, kOki32), kWaveDataUnreadable);
   const std::string good = Write("good.wav", WaveFile(s, 44100, 16));
   // The drive fails in the middle of the data.
-  InjectConvertReadFault(300000);
-  EXPECT_EQ(Convert(good, kWave, out, kOki32), kInputReadError);
+  for (const int format : {kOki32, kRhetorex32}) {  // read beside or with the resampling
+    InjectConvertReadFault(300000);
+    EXPECT_EQ(Convert(good, kWave, out, format), kInputReadError) << format;
+  }
   const std::string raw = Write("in.o32", Bytes(200000, 0x17));
   InjectConvertReadFault(100000);
   EXPECT_EQ(Convert(raw, kOki32, PathOf("x.wav"), kWave), kInputReadError);
@@ -250,6 +252,17 @@ TEST_F(StreamTest, FaultsFoundLateLeaveTheOutputAsItWas) {
   EXPECT_EQ(Convert(good, kWave, out, kOki32), kOutputWriteError);
   EXPECT_EQ(Read(out), old);
   EXPECT_FALSE(fs::exists(PathOf("x.wav")));
+  EXPECT_TRUE(NoTemporaryLeft());
+  // A write fault at any point of a longer input leaves the old file, and the reading and
+  // resampling threads stop with the writer.
+  const std::string longer = Write("long.wav", WaveFile(SpeechLike(44100, 3000000), 44100, 16));
+  for (const size_t after : {0, 1, 4000, 30000, 150000, 250000}) {
+    for (const int format : {kULaw, kRhetorex32}) {
+      ui::InjectDurableWriteFault(ENOSPC, after, 1);
+      EXPECT_EQ(Convert(longer, kWave, out, format), kOutputWriteError) << after;
+      EXPECT_EQ(Read(out), old);
+    }
+  }
   EXPECT_TRUE(NoTemporaryLeft());
   // A folder that is not there, and a target marked read-only.
   EXPECT_EQ(Convert(good, kWave, PathOf("gone/out.o32"), kOki32), kOutputOpenError);
