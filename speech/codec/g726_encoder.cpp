@@ -225,7 +225,10 @@ inline FloatParts Parts(int16_t form) {
 
 bool G726Encoder32::HasVectorCoder() {
 #if KQ_G726_VECTOR
-  static const bool has = __builtin_cpu_supports("avx2");
+  static const bool has = [] {
+    __builtin_cpu_init();  // in case this runs before the processor's features are known
+    return __builtin_cpu_supports("avx2") != 0;
+  }();
   return has;
 #else
   return false;
