@@ -44,6 +44,7 @@ class DurableFile {
   std::string temp_;
   int fd_ = -1;
   uint64_t written_ = 0;
+  uint64_t handed_ = 0;              // the bytes whose writing to the disk has been started
   uint64_t fullAfter_ = UINT64_MAX;  // an injected full device
   int fullErr_ = 0;
 };
