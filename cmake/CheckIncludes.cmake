@@ -9,9 +9,10 @@ cmake_minimum_required(VERSION 3.25)
 # ---- The rule table: folder, then the folders it may include (lowest layers first).
 set(KQ_UI ui/platform ui/model)
 set(KQ_CORE ${KQ_UI} document)
-set(KQ_BELOW_EDITOR ${KQ_CORE} speech/codec dialogs speech/forms sim textform prompts)
+set(KQ_BELOW_EDITOR ${KQ_CORE} text speech/codec dialogs speech/forms sim textform prompts)
 set(KQ_BELOW_TOOLS ${KQ_BELOW_EDITOR} editor ui/headless check diagram check/forms)
 
+set(KQ_RULE_text "")  # the text formats read by several layers: the standard library only
 set(KQ_RULE_ui/platform "")
 set(KQ_RULE_ui/model ui/platform)
 set(KQ_RULE_ui/headless ${KQ_UI})
@@ -20,10 +21,10 @@ set(KQ_RULE_document ${KQ_UI})
 set(KQ_RULE_speech/codec ui/platform)  # the codec needs nothing of the document
 set(KQ_RULE_dialogs ${KQ_CORE} speech/codec)
 set(KQ_RULE_speech/forms ${KQ_CORE} speech/codec dialogs)
-set(KQ_RULE_sim ${KQ_CORE} speech/codec)
+set(KQ_RULE_sim ${KQ_CORE} text speech/codec)
 # The work beyond the description that the editor's menus use: below the editor.
 set(KQ_RULE_textform ${KQ_CORE} ui/headless speech/codec dialogs)
-set(KQ_RULE_prompts ${KQ_CORE} speech/codec)
+set(KQ_RULE_prompts ${KQ_CORE} text speech/codec)
 set(KQ_RULE_editor ${KQ_BELOW_EDITOR})
 # The checks stand on compile, the diagram on the checks' flow, their windows on both.
 set(KQ_RULE_check ${KQ_BELOW_EDITOR} editor ui/headless)
@@ -38,7 +39,7 @@ set(KQ_UNRESTRICTED tests bench fuzz)
 if(NOT SOURCE_DIR)
   message(FATAL_ERROR "SOURCE_DIR is not set")
 endif()
-set(KQ_FOLDERS ui/platform ui/model ui/headless ui/qt document speech/codec dialogs speech/forms
+set(KQ_FOLDERS text ui/platform ui/model ui/headless ui/qt document speech/codec dialogs speech/forms
     sim textform prompts editor check diagram check/forms cli app)
 
 # The folder of a path relative to the repository: the longest folder with a rule that it

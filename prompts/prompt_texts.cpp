@@ -5,6 +5,8 @@
 #include <sstream>
 #include <vector>
 
+#include "text/csv.h"
+
 namespace kq::prompts {
 
 namespace {
@@ -34,63 +36,6 @@ std::string Lower(std::string s) {
   return s;
 }
 
-// Splits the CSV into rows of fields; false when a quoted field is not closed.
-bool SplitCsv(std::string_view csv, std::vector<std::vector<std::string>>& rows,
-              std::vector<size_t>& rowLines, size_t& openLine) {
-  std::vector<std::string> row;
-  std::string field;
-  bool quoted = false, wasQuoted = false, any = false;
-  size_t line = 1, rowLine = 1;
-  auto endField = [&] {
-    row.push_back(wasQuoted ? field : Trimmed(field));
-    field.clear();
-    wasQuoted = false;
-  };
-  auto endRow = [&] {
-    endField();
-    if (any) {
-      rows.push_back(std::move(row));
-      rowLines.push_back(rowLine);
-    }
-    row.clear();
-    any = false;
-  };
-  for (size_t i = 0; i < csv.size(); ++i) {
-    const char c = csv[i];
-    if (quoted) {
-      if (c == '"' && i + 1 < csv.size() && csv[i + 1] == '"') {
-        field += '"';
-        ++i;
-      } else if (c == '"') {
-        quoted = false;
-      } else {
-        if (c == '\n') ++line;
-        field += c;
-      }
-      continue;
-    }
-    if (c == '"' && Trimmed(field).empty()) {
-      quoted = wasQuoted = any = true;
-      field.clear();
-    } else if (c == ',') {
-      any = true;
-      endField();
-    } else if (c == '\n') {
-      endRow();
-      rowLine = ++line;
-    } else if (c != '\r') {
-      if (c != ' ' && c != '\t') any = true;
-      field += c;
-    }
-  }
-  if (quoted) {
-    openLine = rowLine;
-    return false;
-  }
-  endRow();
-  return true;
-}
-
 }  // namespace
 
 std::string PromptKey(std::string_view fileName) {
@@ -99,27 +44,25 @@ std::string PromptKey(std::string_view fileName) {
   return key;
 }
 
-bool ParsePromptTexts(std::string_view csv, PromptTexts& texts, std::string& error,
+bool ParsePromptTexts(std::string_view csvText, PromptTexts& texts, std::string& error,
                       std::vector<std::string>* names) {
-  std::vector<std::vector<std::string>> rows;
-  std::vector<size_t> lines;
-  size_t openLine = 0;
-  if (!SplitCsv(csv, rows, lines, openLine)) {
-    error = "line " + std::to_string(openLine) + ": a quoted field is not closed";
+  const text::CsvRead csv = text::ReadCsv(csvText, {.trimUnquoted = true});
+  if (csv.fault) {
+    error = "line " + std::to_string(csv.fault->line) + ": a quoted field is not closed";
     return false;
   }
   PromptTexts read;
   std::vector<std::string> order;
-  for (size_t r = 0; r < rows.size(); ++r) {
-    const auto& row = rows[r];
+  for (size_t r = 0; r < csv.rows.size(); ++r) {
+    const auto& row = csv.rows[r].fields;
+    const std::string at = "line " + std::to_string(csv.rows[r].line) + ": ";
     if (row.size() != 2) {
-      error = "line " + std::to_string(lines[r]) +
-              ": expected 2 columns (file name, text), found " + std::to_string(row.size());
+      error = at + "expected 2 columns (file name, text), found " + std::to_string(row.size());
       return false;
     }
     if (r == 0 && Lower(row[0]) == "file" && Lower(row[1]) == "text") continue;
     if (row[0].empty()) {
-      error = "line " + std::to_string(lines[r]) + ": the file name is empty";
+      error = at + "the file name is empty";
       return false;
     }
     if (read.emplace(PromptKey(row[0]), row[1]).second) order.push_back(row[0]);

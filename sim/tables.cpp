@@ -6,60 +6,28 @@
 
 #include "document/field_empty.h"
 #include "document/text.h"
+#include "text/csv.h"
 
 namespace kq::sim {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+// Fields keep their blanks; an open quote is reported on the line where it stands.
+text::CsvRead ReadTableCsv(std::string_view csv) {
+  return text::ReadCsv(csv, {.faultLine = text::CsvOptions::FaultLine::QuoteStart});
+}
+
+}  // namespace
+
 bool ParseCsv(const std::string& text, std::vector<std::vector<std::string>>& rows, int& badLine) {
-  std::vector<std::string> row;
-  std::string field;
-  bool quoted = false, any = false;
-  int line = 1, quoteLine = 0;
-  for (size_t i = 0; i < text.size(); ++i) {
-    const char c = text[i];
-    if (quoted) {
-      if (c == '"' && i + 1 < text.size() && text[i + 1] == '"') {
-        field += '"';
-        ++i;
-      } else if (c == '"') {
-        quoted = false;
-      } else {
-        if (c == '\n') ++line;
-        field += c;
-      }
-    } else if (c == '"') {
-      quoted = true;
-      quoteLine = line;
-      any = true;
-    } else if (c == ',') {
-      row.push_back(std::move(field));
-      field.clear();
-      any = true;
-    } else if (c == '\r') {
-      continue;
-    } else if (c == '\n') {
-      if (any || !field.empty()) {
-        row.push_back(std::move(field));
-        rows.push_back(std::move(row));
-      }
-      row.clear();
-      field.clear();
-      any = false;
-      ++line;
-    } else {
-      field += c;
-      any = true;
-    }
-  }
-  if (quoted) {
-    badLine = quoteLine;
+  text::CsvRead csv = ReadTableCsv(text);
+  if (csv.fault) {
+    badLine = static_cast<int>(csv.fault->line);
     return false;
   }
-  if (any || !field.empty()) {
-    row.push_back(std::move(field));
-    rows.push_back(std::move(row));
-  }
+  for (text::CsvRow& row : csv.rows) rows.push_back(std::move(row.fields));
   return true;
 }
 
@@ -153,35 +121,37 @@ bool Tables::Open(const ProgramHeader& header, const std::string& dbFile, const 
 }
 
 bool Tables::Seed(TableState& t, const std::string& text, std::string& error) {
-  std::vector<std::vector<std::string>> rows;
-  int bad = 0;
-  if (!ParseCsv(text, rows, bad)) {
-    error = "line " + std::to_string(bad) + ": a quoted field is not closed";
+  const text::CsvRead csv = ReadTableCsv(text);
+  if (csv.fault) {
+    error = "line " + std::to_string(csv.fault->line) + ": a quoted field is not closed";
     return false;
   }
+  const std::vector<text::CsvRow>& rows = csv.rows;
   std::string expected;
   for (size_t c = 0; c < t.columns.size(); ++c) expected += (c ? "," : "") + t.columns[c].name;
-  if (rows.empty() || rows[0].size() != t.columns.size()) {
-    error = "line 1: the header must name the columns " + expected;
+  const std::string head = "line " + std::to_string(rows.empty() ? 1 : rows[0].line) + ": ";
+  if (rows.empty() || rows[0].fields.size() != t.columns.size()) {
+    error = head + "the header must name the columns " + expected;
     return false;
   }
   for (size_t c = 0; c < t.columns.size(); ++c) {
-    if (Trim(rows[0][c]) != t.columns[c].name) {
-      error = "line 1: column " + std::to_string(c + 1) + " is '" + rows[0][c] + "', expected '" +
+    const std::string& name = rows[0].fields[c];
+    if (Trim(name) != t.columns[c].name) {
+      error = head + "column " + std::to_string(c + 1) + " is '" + name + "', expected '" +
               t.columns[c].name + "' (the header must name the columns " + expected + ")";
       return false;
     }
   }
   for (size_t r = 1; r < rows.size(); ++r) {
-    const std::string where = "line " + std::to_string(r + 1) + ": ";
-    if (rows[r].size() != t.columns.size()) {
-      error = where + std::to_string(rows[r].size()) + " fields, the header has " +
+    const std::string where = "line " + std::to_string(rows[r].line) + ": ";
+    if (rows[r].fields.size() != t.columns.size()) {
+      error = where + std::to_string(rows[r].fields.size()) + " fields, the header has " +
               std::to_string(t.columns.size());
       return false;
     }
     std::vector<Value> values;
     for (size_t c = 0; c < t.columns.size(); ++c) {
-      const std::string& f = rows[r][c];
+      const std::string& f = rows[r].fields[c];
       switch (t.columns[c].type) {
         case VType::Long: {
           auto l = ParseLong(f);

@@ -55,6 +55,25 @@ TEST(PromptTexts, WrongColumnsAreRefusedWithTheLine) {
   EXPECT_EQ(texts.size(), 1u);  // a refused file changes nothing
 }
 
+TEST(PromptTexts, AByteOrderMarkAndTextsOfTwoLinesKeepTheRowsAndTheirLines) {
+  PromptTexts texts;
+  std::string error;
+  std::vector<std::string> names;
+  // An editor that saves UTF-8 with a byte order mark: the header is still the header.
+  ASSERT_TRUE(
+      ParsePromptTexts("\xEF\xBB\xBF"
+                       "file,text\nA.VOX,hi\n",
+                       texts, error, &names));
+  EXPECT_EQ(names, (std::vector<std::string>{"A.VOX"}));
+  ASSERT_TRUE(
+      ParsePromptTexts("\xEF\xBB\xBF"
+                       "B.VOX,bee\n",
+                       texts, error, &names));
+  EXPECT_EQ(PromptText(texts, "b.vox"), "bee");
+  EXPECT_FALSE(ParsePromptTexts("a.vox,\"one\ntwo\"\n\nb.vox\n", texts, error));
+  EXPECT_EQ(error, "line 4: expected 2 columns (file name, text), found 1");
+}
+
 // A speaker that gives one sample a character of the text, at 8000 Hz.
 class CountingSpeaker : public Speaker {
  public:

@@ -132,6 +132,38 @@ TEST_F(SimTablesTest, AWrongCsvIsRefusedAndNothingIsWritten) {
   }
 }
 
+TEST_F(SimTablesTest, AByteOrderMarkAndQuotesInsideATextAreRead) {
+  // An inch mark inside a field is a character: the rows after it are not swallowed.
+  Csv("\xEF\xBB\xBFID,NAME,AMT\n1,\"5\"\" disk\",2\n3,5\" disk,4\n4,x,5\n");
+  std::string error;
+  ASSERT_TRUE(Open("", error)) << error;
+  TableState* t = tables.Find("CUST\0           ");
+  ASSERT_NE(t, nullptr);
+  ASSERT_EQ(tables.Store().Count("CUST"), 3);
+  for (int64_t n : {1, 2}) {
+    std::vector<Value> v;
+    ASSERT_TRUE(tables.Store().Read("CUST", t->columns, n, v));
+    EXPECT_EQ(v[1].s, "5\" disk");
+  }
+}
+
+TEST_F(SimTablesTest, AFaultNamesTheLineItStandsOn) {
+  struct Case {
+    const char* csv;
+    const char* says;
+  } cases[] = {
+      {"ID,NAME,AMT\n\n1,\"two\nlines\",2\n2,Bob,x\n", "line 5: 'x' is not a number for AMT"},
+      {"\nID,NAME\n", "line 2: the header must name the columns ID,NAME,AMT"},
+      {"ID,NAME,AMT\n1,\"a\nb\",2,\"open\n", "line 3: a quoted field is not closed"},
+  };
+  for (const Case& c : cases) {
+    Csv(c.csv);
+    std::string error;
+    EXPECT_FALSE(Open("", error)) << c.csv;
+    EXPECT_NE(error.find(c.says), std::string::npos) << error;
+  }
+}
+
 TEST_F(SimTablesTest, ADatabaseFileWithOtherColumnsIsRefused) {
   const fs::path db = dir / "old.db";
   {
