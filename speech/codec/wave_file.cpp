@@ -131,6 +131,7 @@ void AppendWaveSamples(std::span<const uint8_t> data, int bits, std::vector<int1
   }
   const size_t n = data.size() / 2;  // a last odd byte is no sample
   samples.resize(base + n);
+  if (n == 0) return;  // an empty vector's data may be null, which memcpy must not get
   if constexpr (std::endian::native == std::endian::little) {
     std::memcpy(samples.data() + base, data.data(), n * 2);  // the file's order already
   } else {
