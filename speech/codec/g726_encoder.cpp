@@ -1,5 +1,7 @@
 #include "speech/codec/g726_encoder.h"
 
+#include "speech/codec/g726_tables.h"
+
 #if KQ_G726_VECTOR
 #include "speech/codec/g726_vector.h"
 #endif
@@ -14,13 +16,10 @@ namespace {
 
 using FloatParts = G726Encoder32::FloatParts;
 
-constexpr int kQuantizer[7] = {-124, 80, 178, 246, 300, 349, 400};
-constexpr int kDqln[16] = {-2048, 4,   135, 213, 273, 323, 373, 425,
-                           425,   373, 323, 273, 213, 135, 4,   -2048};
-constexpr int kWi[16] = {-12,  18,  41,  64,  112, 198, 355, 1122,
-                         1122, 355, 198, 112, 64,  41,  18,  -12};
-constexpr int kFi[16] = {0,     0,     0,     0x200, 0x200, 0x200, 0x600, 0xE00,
-                         0xE00, 0x600, 0x200, 0x200, 0x200, 0,     0,     0};
+using g726::kDqln;
+using g726::kFi;
+using g726::kQuantizer;
+using g726::kWi;
 
 // The number of the highest set bit plus one; 0 for 0 (the exponent of the floating forms).
 constexpr int Exponent(int v) {

@@ -15,6 +15,8 @@
 // no inline code with the files built for every processor: its helpers are its own.
 #include "speech/codec/g726_vector.h"
 
+#include "speech/codec/g726_tables.h"
+
 #include <immintrin.h>
 
 #include <cstdlib>
@@ -34,12 +36,15 @@ struct Forms {
 };
 
 // By quantizer interval (the codeword's magnitude bits; 0 is codeword 15): the lower
-// edges of the intervals of the normalised log difference, the log of each interval's
-// reconstructed magnitude, and the step size's and the speed control's weights.
-constexpr Lanes kEdges = {-124, 80, 178, 246, 300, 349, 400, 400};
-constexpr Lanes kDqln = {-2048, 4, 135, 213, 273, 323, 373, 425};
-constexpr int kWi[8] = {-12, 18, 41, 64, 112, 198, 355, 1122};
-constexpr int kFi[8] = {0, 0, 0, 0x200, 0x200, 0x200, 0x600, 0xE00};
+// edges of the intervals of the normalised log difference (the last lane unused) and the
+// log of each interval's reconstructed magnitude. The weights are g726::kWi and kFi.
+constexpr Lanes kEdges =
+    Lanes{g726::kQuantizer[0], g726::kQuantizer[1], g726::kQuantizer[2], g726::kQuantizer[3],
+          g726::kQuantizer[4], g726::kQuantizer[5], g726::kQuantizer[6], g726::kQuantizer[6]};
+constexpr Lanes kDqln = Lanes{g726::kDqln[0], g726::kDqln[1], g726::kDqln[2], g726::kDqln[3],
+                              g726::kDqln[4], g726::kDqln[5], g726::kDqln[6], g726::kDqln[7]};
+using g726::kFi;
+using g726::kWi;
 
 inline int Exponent(int v) {
   return v == 0 ? 0 : 32 - __builtin_clz(static_cast<unsigned>(v));
